@@ -1,0 +1,1 @@
+#include "platform/dialogs/Dialogs.h"
