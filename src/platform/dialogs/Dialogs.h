@@ -9,11 +9,11 @@ class QDialog;
 
 /// What a file dialog is asked with. Filters are in the form "Label (*.ext)|*.ext|Label|*.ext".
 struct FileRequest {
-    QString title;
-    QString filters;
-    QString defaultSuffix;  ///< with its dot: ".kmr"
-    QString startFolder;    ///< empty: wherever the user was last
-    QString fileName;       ///< offered name, may be empty
+    QString title{};
+    QString filters{};
+    QString defaultSuffix{};  ///< with its dot: ".kmr"
+    QString startFolder{};    ///< empty: wherever the user was last
+    QString fileName{};       ///< offered name, may be empty
 };
 
 enum class BoxKind { Error, Warning, Information, Question };
