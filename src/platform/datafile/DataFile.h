@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/files/Files.h"
+
+#include <QString>
+
+namespace datafile {
+
+/// Marks a file as a Kestrelmoor data file, in the header field that is meant for it ("KSTR").
+inline constexpr int applicationId = 0x4b535452;
+
+/// Raises Error when there is no file, or one that is not ours (by its header; nothing is opened or written).
+void inspectDataFile(const QString& path);
+
+/// Reads every page and index of a data file; raises Error(Damaged) on the first thing wrong with it.
+void checkIntegrity(const QString& path);
+
+}  // namespace datafile

@@ -1,0 +1,178 @@
+#include "platform/datafile/Database.h"
+
+#include "platform/datafile/Connection.h"
+#include "platform/datafile/TableSql.h"
+
+#include <QCoreApplication>
+
+namespace datafile {
+
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("datafile", text); }
+
+dialect::TableLookup lookup(Connection& connection) {
+    return [&connection](const QString& name) { return connection.table(name); };
+}
+
+bool sameName(const QString& one, const QString& other) { return one.compare(other, Qt::CaseInsensitive) == 0; }
+
+}  // namespace
+
+const QString& Database::path() const { return connection_->path(); }
+
+Recordset Database::openRecordset(const QString& source, Recordset::Type type) const {
+    return Recordset(connection_, source, type);
+}
+
+std::vector<QString> Database::readList(const QString& query, const QString& column) const {
+    const dialect::Shape shape = dialect::shapeOf(query);
+    const dialect::Query parts = dialect::translateQuery(shape.text, lookup(*connection_));
+    Statement statement(*connection_, QStringLiteral("SELECT %1 FROM (%2)").arg(sql::identifier(column), parts.whole));
+    statement.bind(shape.values);
+    std::vector<QString> list;
+    while (statement.step()) list.push_back(statement.text(0));
+    return list;
+}
+
+qint64 Database::execute(const QString& text) const {
+    const dialect::Shape shape = dialect::shapeOf(text);
+    const qint64 before = connection_->changes();
+    Statement(*connection_, dialect::translate(shape.text, lookup(*connection_))).bind(shape.values).run();
+    return connection_->changes() - before;
+}
+
+QStringList Database::queryPlan(const QString& query) const {
+    const dialect::Shape shape = dialect::shapeOf(query);
+    Statement plan(*connection_, QStringLiteral("EXPLAIN QUERY PLAN ") + dialect::translate(shape.text, lookup(*connection_)));
+    plan.bind(shape.values);
+    QStringList steps;
+    while (plan.step()) steps << plan.text(3);
+    return steps;
+}
+
+QStringList Database::tableNames() const { return connection_->tableNames(); }
+const TableDef* Database::table(const QString& name) const { return connection_->table(name); }
+
+TableDef Database::need(const QString& table) const {
+    const TableDef* found = connection_->table(table);
+    if (!found) throw Error(Fault::Statement, tr("There is no table %1.").arg(table));
+    return *found;
+}
+
+void Database::createTable(const TableDef& table) const {
+    Transaction transaction(*this, Transaction::Kind::Schema);
+    Statement(*connection_, sql::createTable(table)).run();
+    for (const IndexDef& index : table.indexes) Statement(*connection_, sql::createIndex(table.name, index)).run();
+    transaction.commit();
+    connection_->forgetSchema();
+}
+
+void Database::deleteTable(const QString& name) const {
+    Transaction transaction(*this, Transaction::Kind::Schema);
+    Statement(*connection_, QStringLiteral("DROP TABLE ") + sql::identifier(need(name).name)).run();
+    transaction.commit();
+    connection_->forgetSchema();
+}
+
+void Database::addField(const QString& table, const FieldDef& field) const {
+    const TableDef from = need(table);
+    if (from.field(field.name)) throw Error(Fault::Statement, tr("The table %1 has a column %2 already.").arg(table, field.name));
+    const bool plain = (!field.hasDefault || field.type == ColumnType::Boolean) && !field.required && field.type != ColumnType::AutoKey;
+    if (plain) {
+        Statement(*connection_, QStringLiteral("ALTER TABLE %1 ADD COLUMN %2").arg(sql::identifier(from.name), sql::column(field))).run();
+        connection_->forgetSchema();
+        return;
+    }
+    TableDef to = from;
+    to.fields << field;
+    rebuild(from, to);
+}
+
+void Database::deleteField(const QString& table, const QString& field) const {
+    const TableDef from = need(table);
+    if (!from.field(field)) throw Error(Fault::Statement, tr("The table %1 has no column %2.").arg(table, field));
+    TableDef to = from;
+    to.fields.removeIf([&](const FieldDef& each) { return sameName(each.name, field); });
+    to.indexes.removeIf([&](const IndexDef& index) { return index.fields.contains(field, Qt::CaseInsensitive); });
+    to.relations.removeIf([&](const RelationDef& relation) { return sameName(relation.foreignField, field); });
+    rebuild(from, to);
+}
+
+void Database::changeField(const QString& table, const FieldDef& field) const {
+    const TableDef from = need(table);
+    TableDef to = from;
+    bool found = false;
+    for (FieldDef& each : to.fields) {
+        if (!sameName(each.name, field.name)) continue;
+        const QString name = each.name;
+        each = field;
+        each.name = name;
+        found = true;
+    }
+    if (!found) throw Error(Fault::Statement, tr("The table %1 has no column %2.").arg(table, field.name));
+    rebuild(from, to);
+}
+
+void Database::addIndex(const QString& table, const IndexDef& index) const {
+    Statement(*connection_, sql::createIndex(need(table).name, index)).run();
+    connection_->forgetSchema();
+}
+
+void Database::deleteIndex(const QString& table, const QString& index) const {
+    Statement(*connection_, QStringLiteral("DROP INDEX ") + sql::identifier(sql::indexName(need(table).name, index))).run();
+    connection_->forgetSchema();
+}
+
+void Database::addRelation(const RelationDef& relation) const {
+    const TableDef from = need(relation.foreignTable);
+    TableDef to = from;
+    to.relations << relation;
+    rebuild(from, to);
+}
+
+void Database::deleteRelation(const QString& foreignTable, const QString& name) const {
+    const TableDef from = need(foreignTable);
+    TableDef to = from;
+    if (to.relations.removeIf([&](const RelationDef& each) { return sameName(each.name, name); }) == 0)
+        throw Error(Fault::Statement, tr("There is no relation %1.").arg(name));
+    rebuild(from, to);
+}
+
+/// The file's engine changes a column by making the table anew: new table, rows over, old one away, indexes again.
+void Database::rebuild(const TableDef& from, const TableDef& to) const {
+    Transaction transaction(*this, Transaction::Kind::Schema);
+    TableDef made = to;
+    made.name = to.name + QStringLiteral(" (new)");
+    QStringList kept;
+    for (const FieldDef& field : to.fields)
+        if (from.field(field.name)) kept << sql::identifier(field.name);
+    const QString columns = kept.join(u',');
+    const QStringList statements{
+        sql::createTable(made),
+        QStringLiteral("INSERT INTO %1 (rowid%2) SELECT rowid%2 FROM %3")
+            .arg(sql::identifier(made.name), columns.isEmpty() ? QString() : QString(u',' + columns), sql::identifier(from.name)),
+        QStringLiteral("DROP TABLE ") + sql::identifier(from.name),
+        QStringLiteral("PRAGMA legacy_alter_table = ON"),
+        QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(sql::identifier(made.name), sql::identifier(to.name)),
+        QStringLiteral("PRAGMA legacy_alter_table = OFF")};
+    for (const QString& statement : statements) Statement(*connection_, statement).run();
+    for (const IndexDef& index : to.indexes) Statement(*connection_, sql::createIndex(to.name, index)).run();
+    transaction.commit();
+    connection_->forgetSchema();
+}
+
+Transaction::Transaction(const Database& database, Kind kind) : connection_(database.connection_) {
+    connection_->begin(kind == Kind::Schema);
+}
+
+Transaction::~Transaction() {
+    if (open_) connection_->rollback();
+}
+
+void Transaction::commit() {
+    connection_->commit();
+    open_ = false;
+}
+
+}  // namespace datafile

@@ -1,0 +1,409 @@
+#include "platform/datafile/Recordset.h"
+
+#include "platform/datafile/Connection.h"
+#include "platform/datafile/TableSql.h"
+
+#include <QCoreApplication>
+#include <limits>
+
+namespace datafile {
+
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("datafile", text); }
+constexpr size_t readAheadRows = 64;
+
+Value wholeNumber(const Value& value, const QString& column, qint64 least, qint64 most) {
+    if (isNull(value) || toText(value).trimmed().isEmpty()) return {};
+    bool ok = false;
+    const double number = toText(value).trimmed().toDouble(&ok);
+    if (!ok || number < static_cast<double>(least) || number > static_cast<double>(most))
+        throw Error(Fault::NotAllowed, tr("\"%1\" is no number for the column %2.").arg(toText(value), column));
+    return Value{qRound64(number)};
+}
+
+Value converted(const Value& value, ColumnType type, const QString& column) {
+    switch (type) {
+        case ColumnType::AutoKey:
+        case ColumnType::Long:
+            return wholeNumber(value, column, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max());
+        case ColumnType::Integer:
+            return wholeNumber(value, column, std::numeric_limits<qint16>::min(), std::numeric_limits<qint16>::max());
+        case ColumnType::Boolean: return Value{qint64{toNumber(value) != 0}};
+        case ColumnType::Double: {
+            const QString text = toText(value).trimmed();
+            bool ok = text.isEmpty();
+            const double number = ok ? 0 : text.toDouble(&ok);
+            if (!ok) throw Error(Fault::NotAllowed, tr("\"%1\" is no number for the column %2.").arg(text, column));
+            return text.isEmpty() ? Value{} : Value{number};
+        }
+        case ColumnType::Date:
+            if (toText(value).isEmpty()) return {};
+            if (!toDate(value).isValid() && !toTime(value).isValid())
+                throw Error(Fault::NotAllowed, tr("\"%1\" is no date for the column %2.").arg(toText(value), column));
+            return value;
+        case ColumnType::Text: return isNull(value) ? value : Value{toText(value)};
+    }
+    return value;
+}
+
+}  // namespace
+
+Recordset::Recordset(std::shared_ptr<Connection> connection, const QString& source, Type type)
+    : connection_(std::move(connection)), type_(type) {
+    const bool isName = connection_->table(source) != nullptr;
+    shape_ = dialect::shapeOf(isName ? QStringLiteral("SELECT * FROM [%1]").arg(source) : source);
+    open();
+}
+
+void Recordset::open() {
+    epoch_ = connection_->epoch();
+    query_ = dialect::translateQuery(shape_.text, [this](const QString& name) { return connection_->table(name); });
+    if (query_.table.isEmpty()) type_ = Type::Snapshot;
+    if (type_ == Type::Dynaset)
+        rowSql_ = QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?").arg(query_.columns, sql::identifier(query_.table));
+    describe();
+    requery();
+}
+
+void Recordset::describe() {
+    Statement statement(*connection_, type_ == Type::Dynaset ? rowSql_ : query_.whole);
+    const TableDef* table = query_.table.isEmpty() ? nullptr : connection_->table(query_.table);
+    fields_.clear();
+    fieldByName_.clear();
+    for (int i = 0; i < statement.columns(); ++i) {
+        const QString name = statement.name(i);
+        const QString type = statement.declaredType(i);
+        const FieldDef* own = table ? table->field(name) : nullptr;
+        const ColumnType kind =
+            own ? own->type : sql::readColumn(name, type.isEmpty() ? QStringLiteral("TEXT") : type, false, {}, false, {}).type;
+        fields_.push_back({name, kind, own != nullptr});
+        if (!fieldByName_.contains(name.toLower())) fieldByName_.insert(name.toLower(), i);
+    }
+}
+
+int Recordset::field(const QString& name) const {
+    const auto found = fieldByName_.constFind(name.toLower());
+    if (found == fieldByName_.cend())
+        throw Error(Fault::Statement, tr("There is no column %1 in %2.").arg(name, shape_.text));
+    return *found;
+}
+
+QString Recordset::keyQuery(const QString& criteria, const char* ending) const {
+    QString text = QStringLiteral("SELECT rowid FROM ") + sql::identifier(query_.table);
+    if (!query_.where.isEmpty()) text += QStringLiteral(" WHERE (") + query_.where + u')';
+    if (!criteria.isEmpty())
+        text += (query_.where.isEmpty() ? QStringLiteral(" WHERE (") : QStringLiteral(" AND (")) + criteria + u')';
+    if (!query_.orderBy.isEmpty()) text += QStringLiteral(" ORDER BY ") + query_.orderBy;
+    else if (criteria.isEmpty()) text += QStringLiteral(" ORDER BY rowid");
+    return text + QLatin1String(ending);
+}
+
+Values Recordset::keyValues(const Values& criteria) const {
+    const auto from = shape_.values.begin() + query_.columnValues;
+    Values values(from, from + query_.whereValues);
+    values.insert(values.end(), criteria.begin(), criteria.end());
+    values.insert(values.end(), from + query_.whereValues, from + query_.whereValues + query_.orderValues);
+    return values;
+}
+
+void Recordset::requery() {
+    if (epoch_ != connection_->epoch()) return open();
+    keys_.reset();
+    ahead_.clear();
+    rowLoaded_ = false;
+    mode_ = EditMode::None;
+    position_ = -1;
+    if (type_ == Type::Snapshot) {
+        readSnapshot();
+        place_ = snapshot_.empty() ? Place::Empty : Place::Row;
+        position_ = place_ == Place::Row ? 0 : -1;
+        current_ = position_ + 1;
+        return;
+    }
+    Statement first(*connection_, keyQuery({}, " LIMIT 1"));
+    place_ = first.bind(keyValues()).step() ? Place::Row : Place::Empty;
+    current_ = place_ == Place::Row ? first.number(0) : 0;
+    position_ = place_ == Place::Row ? 0 : -1;
+}
+
+void Recordset::readSnapshot() {
+    snapshot_.clear();
+    Statement statement(*connection_, query_.whole);
+    statement.bind(shape_.values);
+    while (statement.step()) {
+        Values& row = snapshot_.emplace_back();
+        row.reserve(fields_.size());
+        for (int i = 0; i < statement.columns(); ++i) row.push_back(statement.value(i));
+    }
+    keys_.emplace(snapshot_.size());
+    for (size_t i = 0; i < snapshot_.size(); ++i) (*keys_)[i] = static_cast<qint64>(i) + 1;
+}
+
+/// After the file was replaced, keys and columns are taken anew; the row is kept when its key is still there.
+void Recordset::refreshAfterReplacement() {
+    if (epoch_ == connection_->epoch()) return;
+    const qint64 key = current_;
+    findSql_.clear();
+    open();
+    if (type_ == Type::Snapshot) return;
+    takeKeys();
+    if (std::find(keys_->begin(), keys_->end(), key) != keys_->end()) standOn(key);
+}
+
+void Recordset::takeKeys() {
+    if (keys_) return;
+    keys_.emplace();
+    Statement statement(*connection_, keyQuery({}, ""));
+    statement.bind(keyValues());
+    while (statement.step()) keys_->push_back(statement.number(0));
+}
+
+void Recordset::standOn(qint64 key) {
+    current_ = key;
+    place_ = Place::Row;
+    position_ = -1;
+    rowLoaded_ = false;
+}
+
+int Recordset::position() {
+    takeKeys();
+    if (position_ < 0) {
+        const auto found = std::find(keys_->begin(), keys_->end(), current_);
+        if (found == keys_->end()) keys_->push_back(current_), position_ = static_cast<int>(keys_->size()) - 1;
+        else position_ = static_cast<int>(found - keys_->begin());
+    }
+    return position_;
+}
+
+void Recordset::moveFirst() {
+    refreshAfterReplacement();
+    mode_ = EditMode::None;
+    if (!keys_) return requery();
+    place_ = keys_->empty() ? Place::Empty : Place::Row;
+    if (place_ == Place::Row) standOn(keys_->front()), position_ = 0;
+}
+
+void Recordset::moveLast() {
+    refreshAfterReplacement();
+    mode_ = EditMode::None;
+    takeKeys();
+    place_ = keys_->empty() ? Place::Empty : Place::Row;
+    if (place_ == Place::Row) standOn(keys_->back()), position_ = static_cast<int>(keys_->size()) - 1;
+}
+
+void Recordset::moveNext() {
+    refreshAfterReplacement();
+    mode_ = EditMode::None;
+    if (place_ == Place::Empty || place_ == Place::After)
+        throw Error(Fault::NoCurrentRecord, tr("There is no current record."));
+    takeKeys();
+    const int next = place_ == Place::Before ? 0 : place_ == Place::Gap ? position_ : position() + 1;
+    ++sequentialMoves_;
+    if (next >= static_cast<int>(keys_->size())) {
+        place_ = keys_->empty() ? Place::Empty : Place::After;
+        return;
+    }
+    standOn((*keys_)[static_cast<size_t>(next)]);
+    position_ = next;
+}
+
+void Recordset::movePrevious() {
+    refreshAfterReplacement();
+    mode_ = EditMode::None;
+    sequentialMoves_ = 0;
+    if (place_ == Place::Empty || place_ == Place::Before)
+        throw Error(Fault::NoCurrentRecord, tr("There is no current record."));
+    takeKeys();
+    const int previous = (place_ == Place::After ? static_cast<int>(keys_->size()) : place_ == Place::Gap ? position_ : position()) - 1;
+    if (previous < 0) {
+        place_ = keys_->empty() ? Place::Empty : Place::Before;
+        return;
+    }
+    standOn((*keys_)[static_cast<size_t>(previous)]);
+    position_ = previous;
+}
+
+void Recordset::findFirst(const QString& criteria) {
+    refreshAfterReplacement();
+    if (type_ == Type::Snapshot) throw Error(Fault::State, tr("A snapshot cannot be searched."));
+    const dialect::Shape shape = dialect::shapeOf(criteria);
+    QString& statement = findSql_[shape.text];
+    if (statement.isEmpty())
+        statement = keyQuery(dialect::translate(shape.text, [this](const QString& name) { return connection_->table(name); }, query_.table),
+                             " LIMIT 1");
+    Statement find(*connection_, statement);
+    noMatch_ = !find.bind(keyValues(shape.values)).step();
+    if (noMatch_) return;
+    mode_ = EditMode::None;
+    sequentialMoves_ = 0;
+    standOn(find.number(0));
+}
+
+int Recordset::recordCount() {
+    refreshAfterReplacement();
+    if (keys_) return static_cast<int>(keys_->size());
+    QString text = keyQuery({}, "");
+    text.replace(0, QStringLiteral("SELECT rowid").size(), QStringLiteral("SELECT count(*)"));
+    text.truncate(text.indexOf(QStringLiteral(" ORDER BY ")));
+    Statement count(*connection_, text);
+    count.bind(shape_.values, static_cast<size_t>(query_.columnValues), static_cast<size_t>(query_.whereValues)).step();
+    return static_cast<int>(count.number(0));
+}
+
+int Recordset::absolutePosition() { return place_ == Place::Row ? position() : -1; }
+
+void Recordset::setBookmark(Bookmark row) {
+    refreshAfterReplacement();
+    mode_ = EditMode::None;
+    sequentialMoves_ = 0;
+    standOn(row);
+}
+
+const Value& Recordset::value(int field) {
+    refreshAfterReplacement();
+    if (place_ != Place::Row) throw Error(Fault::NoCurrentRecord, tr("There is no current record."));
+    if (!rowLoaded_) loadRow();
+    return row_[static_cast<size_t>(field)];
+}
+
+void Recordset::loadRow() {
+    if (type_ == Type::Snapshot) {
+        row_ = snapshot_[static_cast<size_t>(current_ - 1)];
+        rowLoaded_ = true;
+        return;
+    }
+    if (sequentialMoves_ >= 2 && position_ >= 0) return readAhead();
+    Statement statement(*connection_, rowSql_);
+    statement.bind(shape_.values, 0, static_cast<size_t>(query_.columnValues));
+    if (!statement.bind(Value{current_}).step())
+        throw Error(Fault::NoCurrentRecord, tr("The record was removed in the meantime."));
+    row_.resize(fields_.size());
+    for (int i = 0; i < fieldCount(); ++i) row_[static_cast<size_t>(i)] = statement.value(i);
+    rowLoaded_ = true;
+}
+
+/// A walk through many rows reads them in blocks, one read transaction each; any write makes the block stale.
+void Recordset::readAhead() {
+    const size_t at = static_cast<size_t>(position_);
+    if (at < aheadFrom_ || at >= aheadFrom_ + ahead_.size() || aheadChanges_ != connection_->changes()) {
+        ahead_.clear();
+        aheadFrom_ = at;
+        aheadChanges_ = connection_->changes();
+        const bool alone = !connection_->inTransaction();
+        if (alone) Statement(*connection_, QStringLiteral("BEGIN")).run();
+        {
+            for (size_t i = at; i < std::min(at + readAheadRows, keys_->size()); ++i) {
+                Statement statement(*connection_, rowSql_);
+                statement.bind(shape_.values, 0, static_cast<size_t>(query_.columnValues));
+                Values& row = ahead_.emplace_back();
+                if (!statement.bind(Value{(*keys_)[i]}).step()) continue;
+                row.reserve(fields_.size());
+                for (int field = 0; field < fieldCount(); ++field) row.push_back(statement.value(field));
+            }
+        }
+        if (alone) Statement(*connection_, QStringLiteral("COMMIT")).run();
+    }
+    row_ = std::move(ahead_[at - aheadFrom_]);
+    if (row_.empty()) throw Error(Fault::NoCurrentRecord, tr("The record was removed in the meantime."));
+    rowLoaded_ = true;
+    if (at + 1 == aheadFrom_ + ahead_.size()) ahead_.clear();
+}
+
+void Recordset::addNew() {
+    refreshAfterReplacement();
+    if (type_ == Type::Snapshot) throw Error(Fault::State, tr("These rows cannot be changed."));
+    mode_ = EditMode::Add;
+    pending_.clear();
+}
+
+void Recordset::edit() {
+    refreshAfterReplacement();
+    if (type_ == Type::Snapshot) throw Error(Fault::State, tr("These rows cannot be changed."));
+    if (place_ != Place::Row) throw Error(Fault::NoCurrentRecord, tr("There is no current record."));
+    mode_ = EditMode::Edit;
+    pending_.clear();
+}
+
+void Recordset::set(int field, Value value) {
+    if (mode_ == EditMode::None) throw Error(Fault::State, tr("No row is being edited."));
+    const Field& about = fields_[static_cast<size_t>(field)];
+    if (!about.own || about.type == ColumnType::AutoKey)
+        throw Error(Fault::State, tr("The column %1 cannot be set.").arg(about.name));
+    Value fitting = converted(value, about.type, about.name);
+    for (auto& [set, held] : pending_)
+        if (set == field) {
+            held = std::move(fitting);
+            return;
+        }
+    pending_.emplace_back(field, std::move(fitting));
+}
+
+void Recordset::update() {
+    if (mode_ == EditMode::None) throw Error(Fault::State, tr("No row is being edited."));
+    const qint64 expectedKey = mode_ == EditMode::Edit ? current_ : 0;
+    try {
+        writeRow();
+        lastModified_ = mode_ == EditMode::Edit ? current_ : connection_->lastKey();
+    } catch (const Error& error) {
+        const bool uncertain = error.fault() == Fault::InputOutput || error.fault() == Fault::Full;
+        if (!uncertain || connection_->inTransaction() || expectedKey == 0 || !wasWritten(expectedKey)) throw;
+        lastModified_ = expectedKey;
+    }
+    if (mode_ == EditMode::Add && keys_) keys_->push_back(lastModified_);
+    if (place_ == Place::Empty && mode_ == EditMode::Add) place_ = Place::After;
+    mode_ = EditMode::None;
+    rowLoaded_ = false;
+}
+
+void Recordset::writeRow() {
+    QStringList names;
+    QStringList marks;
+    Values values;
+    for (auto& [field, value] : pending_) {
+        names << sql::identifier(fields_[static_cast<size_t>(field)].name);
+        marks << QStringLiteral("?");
+        values.push_back(value);
+    }
+    const QString table = sql::identifier(query_.table);
+    if (mode_ == EditMode::Add) {
+        const QString text = names.isEmpty() ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table)
+                                             : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, names.join(u','), marks.join(u','));
+        Statement(*connection_, text).bind(values).run();
+        return;
+    }
+    if (names.isEmpty()) return;
+    const qint64 before = connection_->changes();
+    Statement write(*connection_, QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?").arg(table, names.join(QStringLiteral(" = ?, "))));
+    write.bind(values).bind(Value{current_}).run();
+    if (connection_->changes() == before) throw Error(Fault::NoCurrentRecord, tr("The record was removed in the meantime."));
+}
+
+bool Recordset::wasWritten(qint64 key) {
+    try {
+        for (const auto& [field, value] : pending_) {
+            Statement read(*connection_, QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?")
+                                             .arg(sql::identifier(fields_[static_cast<size_t>(field)].name), sql::identifier(query_.table)));
+            if (!read.bind(Value{key}).step() || read.value(0) != value) return false;
+        }
+        return true;
+    } catch (const Error&) {
+        return false;
+    }
+}
+
+void Recordset::remove() {
+    refreshAfterReplacement();
+    if (type_ == Type::Snapshot) throw Error(Fault::State, tr("These rows cannot be changed."));
+    if (place_ != Place::Row) throw Error(Fault::NoCurrentRecord, tr("There is no current record."));
+    const int at = position();
+    Statement(*connection_, QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(sql::identifier(query_.table))).bind(Value{current_}).run();
+    keys_->erase(keys_->begin() + at);
+    ahead_.clear();
+    position_ = at;
+    place_ = Place::Gap;
+    rowLoaded_ = false;
+    mode_ = EditMode::None;
+}
+
+}  // namespace datafile

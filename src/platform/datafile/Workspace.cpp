@@ -1,0 +1,88 @@
+#include "platform/datafile/Workspace.h"
+
+#include "platform/datafile/Connection.h"
+#include "platform/datafile/DataFile.h"
+#include "platform/datafile/TableSql.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace datafile {
+
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("datafile", text); }
+QString keyOf(const QString& path) { return QDir::cleanPath(QFileInfo(path).absoluteFilePath()); }
+
+[[noreturn]] void passOn(const files::Error& error) {
+    const Fault fault = error.full() ? Fault::Full : error.readOnly() ? Fault::ReadOnly : Fault::InputOutput;
+    throw Error(fault, error.text());
+}
+
+}  // namespace
+
+std::shared_ptr<Connection> Workspace::find(const QString& path) const { return connections_.value(keyOf(path)).lock(); }
+
+Database Workspace::openDatabase(const QString& path) {
+    auto connection = find(path);
+    if (!connection) {
+        connection = std::make_shared<Connection>(path, true);
+        connections_.insert(keyOf(path), connection);
+    }
+    return Database(std::move(connection));
+}
+
+Database Workspace::createDatabase(const QString& path) {
+    if (QFileInfo::exists(path)) throw Error(Fault::State, tr("The file %1 exists already.").arg(QDir::toNativeSeparators(path)));
+    auto connection = std::make_shared<Connection>(path, false);
+    connections_.insert(keyOf(path), connection);
+    return Database(std::move(connection));
+}
+
+void Workspace::copyDatabase(const QString& from, const QString& to) {
+    try {
+        const Database source = openDatabase(from);
+        Transaction quiet(source);
+        files::copyWhole(from, to);
+    } catch (const files::Error& error) {
+        passOn(error);
+    }
+}
+
+void Workspace::compactDatabase(const QString& from, const QString& to) {
+    if (QFileInfo::exists(to)) throw Error(Fault::State, tr("The file %1 exists already.").arg(QDir::toNativeSeparators(to)));
+    const QString made = files::temporaryName(to);
+    try {
+        auto connection = find(from);
+        if (!connection) connection = std::make_shared<Connection>(from, true);
+        Statement(*connection, QStringLiteral("VACUUM INTO ") + sql::literal(made)).run();
+        checkIntegrity(made);
+        QFile::setPermissions(made, QFileInfo(from).permissions());
+        files::copyWhole(made, to);
+        QFile::remove(made);
+    } catch (const files::Error& error) {
+        QFile::remove(made);
+        passOn(error);
+    } catch (...) {
+        QFile::remove(made);
+        throw;
+    }
+}
+
+void Workspace::replaceDatabase(const QString& path, const QString& made) {
+    inspectDataFile(made);
+    const auto swap = [&] {
+        try {
+            for (const char* sidecar : {"-journal", "-wal", "-shm"}) QFile::remove(path + QLatin1String(sidecar));
+            files::replaceWith(made, path);
+        } catch (const files::Error& error) {
+            passOn(error);
+        }
+    };
+    if (const auto connection = find(path)) connection->whileClosed(swap);
+    else swap();
+}
+
+}  // namespace datafile

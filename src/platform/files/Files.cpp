@@ -1,0 +1,134 @@
+#include "platform/files/Files.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace files {
+
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("files", text); }
+
+[[noreturn]] void fail(const QString& what, const QString& path, int code) {
+    const QString reason = code == ENOSPC || code == EDQUOT ? tr("There is no space left on the disk.")
+                                                            : QString::fromLocal8Bit(std::strerror(code));
+    throw Error(what.arg(QDir::toNativeSeparators(path)) + u'\n' + reason, code);
+}
+
+/// An open file that closes itself; every failure raises.
+class Handle {
+public:
+    Handle(const QString& path, int flags, mode_t mode = 0) : path_(path), id_(::open(QFile::encodeName(path), flags | O_CLOEXEC, mode)) {
+        if (id_ < 0) fail(flags & O_CREAT ? tr("The file %1 could not be written.") : tr("The file %1 could not be read."), path, errno);
+    }
+    ~Handle() {
+        if (id_ >= 0) ::close(id_);
+    }
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+
+    qint64 read(char* into, size_t size) {
+        const ssize_t count = ::read(id_, into, size);
+        if (count < 0) fail(tr("The file %1 could not be read."), path_, errno);
+        return count;
+    }
+    void write(const char* from, qint64 size) {
+        while (size > 0) {
+            const ssize_t count = ::write(id_, from, static_cast<size_t>(size));
+            if (count <= 0) fail(tr("The file %1 could not be written."), path_, count < 0 ? errno : ENOSPC);
+            from += count;
+            size -= count;
+        }
+    }
+    void finish(qint64 expected) {
+        if (::fsync(id_) != 0) fail(tr("The file %1 could not be written."), path_, errno);
+        struct stat about{};
+        if (::fstat(id_, &about) != 0 || about.st_size != expected) fail(tr("The file %1 could not be written."), path_, EIO);
+        const int id = id_;
+        id_ = -1;
+        if (::close(id) != 0) fail(tr("The file %1 could not be written."), path_, errno);
+    }
+    mode_t mode() const {
+        struct stat about{};
+        return ::fstat(id_, &about) == 0 ? about.st_mode & 0777 : 0644;
+    }
+
+private:
+    QString path_;
+    int id_;
+};
+
+/// Removes a half-made file unless it was put in its place.
+struct Scrap {
+    QString path;
+    ~Scrap() {
+        if (!path.isEmpty()) QFile::remove(path);
+    }
+};
+
+}  // namespace
+
+bool Error::full() const { return code_ == ENOSPC || code_ == EDQUOT; }
+bool Error::readOnly() const { return code_ == EACCES || code_ == EPERM || code_ == EROFS; }
+
+QString temporaryName(const QString& path) {
+    QString name;
+    do {
+        name = path + QStringLiteral(".%1~").arg(QRandomGenerator::global()->generate() % 0xfffff, 5, 16, QLatin1Char('0'));
+    } while (QFileInfo::exists(name));
+    return name;
+}
+
+bool sameFile(const QString& one, const QString& other) {
+    struct stat a{};
+    struct stat b{};
+    return ::stat(QFile::encodeName(one), &a) == 0 && ::stat(QFile::encodeName(other), &b) == 0 &&
+           a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+bool canWriteFolder(const QString& folder) { return ::access(QFile::encodeName(folder), W_OK | X_OK) == 0; }
+
+void replaceWith(const QString& made, const QString& to) {
+    if (::rename(QFile::encodeName(made), QFile::encodeName(to)) != 0)
+        fail(tr("The file %1 could not be replaced."), to, errno);
+    const int folder = ::open(QFile::encodeName(QFileInfo(to).absolutePath()), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder >= 0) {
+        ::fsync(folder);
+        ::close(folder);
+    }
+}
+
+void copyWhole(const QString& from, const QString& to) {
+    if (sameFile(from, to)) throw Error(tr("A file cannot be copied onto itself."), EINVAL);
+    Handle source(from, O_RDONLY);
+    Scrap scrap{temporaryName(to)};
+    Handle target(scrap.path, O_WRONLY | O_CREAT | O_EXCL, source.mode());
+    QByteArray block(1 << 20, Qt::Uninitialized);
+    qint64 total = 0;
+    while (const qint64 count = source.read(block.data(), static_cast<size_t>(block.size()))) {
+        target.write(block.constData(), count);
+        total += count;
+    }
+    target.finish(total);
+    replaceWith(scrap.path, to);
+    scrap.path.clear();
+}
+
+void writeWhole(const QString& to, const QByteArray& bytes) {
+    Scrap scrap{temporaryName(to)};
+    Handle target(scrap.path, O_WRONLY | O_CREAT | O_EXCL, 0644);
+    target.write(bytes.constData(), bytes.size());
+    target.finish(bytes.size());
+    replaceWith(scrap.path, to);
+    scrap.path.clear();
+}
+
+}  // namespace files
