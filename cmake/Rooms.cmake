@@ -6,7 +6,7 @@ target_include_directories(kestrel_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(kestrel_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 target_compile_definitions(kestrel_flags INTERFACE
-  QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER
+  QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER
   KESTRELMOOR_VERSION="${PROJECT_VERSION}")
 if(KESTREL_SANITIZE)
   target_compile_options(kestrel_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer)
@@ -33,6 +33,9 @@ function(kestrel_room name kind)
   cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
   if(NOT ROOM_SOURCES)
     file(GLOB ROOM_SOURCES CONFIGURE_DEPENDS *.cpp *.h *.qrc)
+  endif()
+  if(NOT ROOM_SOURCES MATCHES "\\.cpp")
+    return()
   endif()
   add_library(${name} STATIC ${ROOM_SOURCES})
   target_link_libraries(${name} PUBLIC kestrel_flags Qt6::Core ${ROOM_USES})

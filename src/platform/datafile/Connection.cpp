@@ -286,7 +286,7 @@ TableDef Connection::readTable(const QString& name) {
     Statement indexes(*this, QStringLiteral("SELECT name, \"unique\" FROM pragma_index_list(?) WHERE origin = 'c' ORDER BY name"));
     indexes.bind(Value{table.name});
     while (indexes.step()) {
-        IndexDef index{.name = indexes.text(0).mid(table.name.size() + 1), .unique = indexes.number(1) != 0};
+        IndexDef index{indexes.text(0).mid(table.name.size() + 1), {}, false, indexes.number(1) != 0};
         index.primary = index.unique && index.name == QLatin1String("PrimaryKey");
         Statement parts(*this, QStringLiteral("SELECT name FROM pragma_index_info(?) ORDER BY seqno"));
         parts.bind(Value{indexes.text(0)});
