@@ -261,6 +261,7 @@ QStringList Connection::tableNames() {
 }
 
 void Connection::forgetSchema() {
+    dropStatements();  // their columns are those of the old schema
     tables_.clear();
     namesKnown_ = false;
 }
