@@ -144,14 +144,18 @@ void Database::rebuild(const TableDef& from, const TableDef& to) const {
     Transaction transaction(*this, Transaction::Kind::Schema);
     TableDef made = to;
     made.name = to.name + QStringLiteral(" (new)");
-    QStringList kept;
-    for (const FieldDef& field : to.fields)
-        if (from.field(field.name)) kept << sql::identifier(field.name);
-    const QString columns = kept.join(u',');
+    QStringList columns{QStringLiteral("rowid")};
+    QStringList values = columns;
+    for (const FieldDef& field : to.fields) {
+        const bool isNew = !from.field(field.name);
+        if (isNew && (field.required || field.type == ColumnType::Boolean)) continue;  // takes its default
+        columns << sql::identifier(field.name);
+        values << (isNew ? QStringLiteral("NULL") : columns.last());
+    }
     const QStringList statements{
         sql::createTable(made),
-        QStringLiteral("INSERT INTO %1 (rowid%2) SELECT rowid%2 FROM %3")
-            .arg(sql::identifier(made.name), columns.isEmpty() ? QString() : QString(u',' + columns), sql::identifier(from.name)),
+        QStringLiteral("INSERT INTO %1 (%2) SELECT %3 FROM %4")
+            .arg(sql::identifier(made.name), columns.join(u','), values.join(u','), sql::identifier(from.name)),
         QStringLiteral("DROP TABLE ") + sql::identifier(from.name),
         QStringLiteral("PRAGMA legacy_alter_table = ON"),
         QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(sql::identifier(made.name), sql::identifier(to.name)),
