@@ -1,0 +1,195 @@
+#include "store/RecordClass.h"
+
+#include <QCoreApplication>
+
+using datafile::Recordset;
+
+namespace {
+
+constexpr char programName[] = "Kestrelmoor";
+
+}  // namespace
+
+QString live(const QString& criteria) { return QStringLiteral("DeletedFlag = False AND ") + criteria; }
+QString matches(const char* column, const QString& text) {
+    return QLatin1String(column) + QStringLiteral(" = ") + datafile::quoted(text);
+}
+QString matches(const char* column, int number) {
+    return QLatin1String(column) + QStringLiteral(" = ") + QString::number(number);
+}
+
+void RecordClass::open(RecordRules rules) {
+    rules_ = std::move(rules);
+    main_.emplace(database_.openRecordset(QString::fromLatin1(rules_.source)));
+    const datafile::TableDef* table = nullptr;
+    for (const QString& name : database_.tableNames())
+        if (QString::fromLatin1(rules_.source).split(u' ').contains(name)) table = database_.table(name);
+    for (Column* column : columns_) {
+        column->field_ = main_->field(QString::fromLatin1(column->name_));
+        const datafile::FieldDef* field = table ? table->field(QString::fromLatin1(column->name_)) : nullptr;
+        column->size_ = field ? field->size : 0;
+    }
+    blank();
+    clearFlags();
+    load();
+}
+
+template <class Kind>
+Kind* RecordClass::find(const char* name) const {
+    for (Column* column : columns_)
+        if (qstricmp(column->name_, name) == 0) return dynamic_cast<Kind*>(column);
+    return nullptr;
+}
+
+void RecordClass::clearFlags() {
+    dirty_ = new_ = false;
+    for (Column* column : columns_) column->assigned_ = false;
+}
+
+void RecordClass::load() {
+    if (main_->bof() || main_->eof()) return;
+    if (!rules_.loadsDeleted && main_->flag(QStringLiteral("DeletedFlag"))) return blank();
+    for (Column* column : columns_) column->read(main_->value(column->field_));
+}
+
+void RecordClass::blank() {
+    for (Column* column : columns_) column->blank();
+}
+
+void RecordClass::newRecord() {
+    blank();
+    clearFlags();
+    new_ = true;
+}
+
+void RecordClass::undo() {
+    clearFlags();
+    load();
+}
+
+void RecordClass::move(int code) {
+    switch (code) {
+        case MoveFirst: main_->moveFirst(); break;
+        case MoveLast: main_->moveLast(); break;
+        case MoveNext:
+            main_->moveNext();
+            if (main_->eof()) main_->moveLast();
+            break;
+        case MovePrevious:
+            main_->movePrevious();
+            if (main_->bof()) main_->moveFirst();
+            break;
+        default: raise(firstRecordError);
+    }
+    load();
+}
+
+QString RecordClass::errorText(quint32 number) const {
+    if (number == firstRecordError) return QString::fromLatin1(rules_.badMove);
+    if (number == firstRecordError + 1)
+        return QStringLiteral("There are no records in the %1Enter Data and Press the Add key to add a new one.")
+            .arg(QLatin1String(rules_.noRecords));
+    const size_t required = number - firstRecordError - 2;
+    return required < rules_.required.size() ? QString::fromLatin1(rules_.required[required].message)
+                                             : QStringLiteral("There is no message for this error.");
+}
+
+void RecordClass::raise(quint32 number) const {
+    throw RecordError(number, QLatin1String(programName) + QLatin1String(rules_.tag), errorText(number));
+}
+
+bool RecordClass::isValid(bool showError) const {
+    for (size_t i = 0; i < rules_.required.size(); ++i) {
+        const Required& rule = rules_.required[i];
+        if (!rule.raised || rule.column->isFilled()) continue;
+        if (showError) raise(firstRecordError + 2 + static_cast<quint32>(i));
+        return false;
+    }
+    return true;
+}
+
+void RecordClass::save(Stamps stamps) {
+    if (!isChanged() || !isValid(false)) return;
+    const bool adding = new_ || main_->recordCount() == 0;
+    beforeWrite(adding);
+    if (!adding) {
+        main_->edit();
+    } else {
+        const QString twin = twinCriteria();
+        const bool revive = !twin.isEmpty() && find(twin, false);
+        if (revive) main_->edit();
+        else main_->addNew();
+    }
+    write(adding, stamps);
+    main_->update();
+    main_->setBookmark(main_->lastModified());
+    for (Column* column : columns_)
+        if (auto* key = dynamic_cast<Key*>(column)) key->read(main_->value(key->field_));
+    clearFlags();
+}
+
+void RecordClass::write(bool adding, Stamps stamps) {
+    auto* day = find<Day>("DateStamp");
+    auto* time = find<Whole>("TimeStamp");
+    auto* deleted = find<Flag>("DeletedFlag");
+    if (stamps == Stamps::Fresh) {
+        if (day) day->value_ = context_.clock.today(), day->assigned_ = true;
+        if (time) time->value_ = context_.clock.secondsSinceMidnight(), time->assigned_ = true;
+        if (deleted && adding) deleted->value_ = false;
+    } else {
+        for (Column* column : {static_cast<Column*>(day), static_cast<Column*>(time), static_cast<Column*>(deleted)})
+            if (column) column->assigned_ = true;
+    }
+    for (Column* column : columns_)
+        if ((adding || column->assigned_) && !dynamic_cast<Key*>(column)) main_->set(column->field_, column->stored(adding));
+}
+
+QString RecordClass::twinCriteria() const {
+    if (rules_.naturalKey.empty()) return {};
+    QString criteria = QStringLiteral("DeletedFlag = True");
+    for (const Text* column : rules_.naturalKey)
+        criteria += QStringLiteral(" AND ") + matches(column->name(), (*column)());
+    return criteria;
+}
+
+void RecordClass::deleteRecord() {
+    main_->edit();
+    main_->set(QStringLiteral("DateStamp"), context_.clock.today());
+    main_->set(QStringLiteral("TimeStamp"), context_.clock.secondsSinceMidnight());
+    main_->set(QStringLiteral("DeletedFlag"), true);
+    whileDeleting(*main_);
+    main_->update();
+    clearFlags();
+    if (main_->recordCount() == 1) return blank();
+    main_->movePrevious();
+    if (main_->bof()) main_->moveFirst();
+    load();
+}
+
+void RecordClass::requery() {
+    const auto row = main_->bookmark();
+    main_->requery();
+    if (row) main_->setBookmark(row);
+}
+
+bool RecordClass::find(const QString& criteria, bool loadRow) {
+    main_->findFirst(criteria);
+    if (main_->noMatch()) return false;
+    if (loadRow) load();
+    return true;
+}
+
+bool RecordClass::findOrTell(const QString& criteria, const QString& name, bool show, bool loadRow, const FindTexts& texts) {
+    const bool empty = main_->bof() && main_->eof();
+    if (!empty && find(criteria, loadRow)) return true;
+    if (show) {
+        QString text = QString::fromLatin1(empty ? texts.onEmpty : texts.onMiss);
+        context_.dialogs.warning(QString::fromLatin1(texts.title), text.replace(QStringLiteral("%1"), name));
+    }
+    return false;
+}
+
+bool RecordClass::findByName(const QString& name, bool show, bool loadRow) {
+    return findOrTell(live(matches(rules_.naturalKey.front()->name(), name)), name, show, loadRow,
+                      {"Record Not Found...", "No Records Found for %1.", "No Records found for %1."});
+}
