@@ -86,6 +86,7 @@ struct Entry {
         date = names.sliced(separator + 3);
         names = names.first(separator);
     }
+
     QString text;
     QString letters;
     QStringView names;   ///< in letters: all but the date at its end

@@ -6,7 +6,7 @@
 // Which keys a box takes. Every box picks one filter; the double quote is in none of them.
 
 /// A filter as a function: the key code when its character is allowed or is backspace, otherwise 0.
-struct KeyFilter {
+struct KeySet {
     std::string_view characters;
 
     constexpr int operator()(int keyCode) const {
@@ -18,32 +18,31 @@ struct KeyFilter {
 };
 
 /// A filter that can be told to let the return key through.
-struct KeyFilterWithReturn : KeyFilter {
-    using KeyFilter::operator();
+struct KeySetWithReturn : KeySet {
+    using KeySet::operator();
     constexpr int operator()(int keyCode, bool returnPasses) const {
-        return returnPasses && keyCode == carriageReturn ? keyCode : KeyFilter::operator()(keyCode);
+        return returnPasses && keyCode == carriageReturn ? keyCode : KeySet::operator()(keyCode);
     }
 
     static constexpr int carriageReturn = 13;
 };
 
-inline constexpr KeyFilter FilterNumeric{"1234567890"};
-inline constexpr KeyFilter FilterMoney{"1234567890$."};
-inline constexpr KeyFilter FilterFileName{
-    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_!()$+=?@/. "};
-inline constexpr KeyFilter FilterTextWide{
+inline constexpr KeySet FilterNumeric{"1234567890"};
+inline constexpr KeySet FilterMoney{"1234567890$."};
+inline constexpr KeySet FilterFileName{"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_!()$+=?@/. "};
+inline constexpr KeySet FilterTextWide{
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_!()$+=*#?@/.,';: "};
-inline constexpr KeyFilter FilterTextNoDash{
+inline constexpr KeySet FilterTextNoDash{
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_!*()$+=?#@/.';: "};
-inline constexpr KeyFilterWithReturn FilterTextFull{
+inline constexpr KeySetWithReturn FilterTextFull{
     {"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_!()$#+=?*@/.';: "}};
-inline constexpr KeyFilter FilterTextPercent{
+inline constexpr KeySet FilterTextPercent{
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_!()$+=?@*#%/.';: "};
-inline constexpr KeyFilter FilterTime{"1234567890:aApPmM "};
+inline constexpr KeySet FilterTime{"1234567890:aApPmM "};
 
 /// Whether a box with this filter takes the character, typed or pasted: what the filter passes and, where it passes
 /// all letters, any letter or combining mark beyond ASCII ("Québec", "Peña").
-inline bool admits(const KeyFilter& filter, QChar character) {
+inline bool admits(const KeySet& filter, QChar character) {
     if (character.unicode() < 128) return filter(character.unicode()) != 0;
     return filter('z') != 0 && (character.isLetter() || character.isMark() || character.isSurrogate());
 }

@@ -8,14 +8,14 @@
 
 TEST(KeyFilters, PassTheirCharactersAndBackspaceOnly) {
     const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
-    const std::pair<KeyFilter, QString> filters[] = {{FilterNumeric, "1234567890"},
-                                                     {FilterMoney, "1234567890$."},
-                                                     {FilterFileName, letters + "-_!()$+=?@/. "},
-                                                     {FilterTextWide, letters + "-_!()$+=*#?@/.,';: "},
-                                                     {FilterTextNoDash, letters + "_!*()$+=?#@/.';: "},
-                                                     {FilterTextFull, letters + "-_!()$#+=?*@/.';: "},
-                                                     {FilterTextPercent, letters + "_!()$+=?@*#%/.';: "},
-                                                     {FilterTime, "1234567890:aApPmM "}};
+    const std::pair<KeySet, QString> filters[] = {{FilterNumeric, "1234567890"},
+                                                  {FilterMoney, "1234567890$."},
+                                                  {FilterFileName, letters + "-_!()$+=?@/. "},
+                                                  {FilterTextWide, letters + "-_!()$+=*#?@/.,';: "},
+                                                  {FilterTextNoDash, letters + "_!*()$+=?#@/.';: "},
+                                                  {FilterTextFull, letters + "-_!()$#+=?*@/.';: "},
+                                                  {FilterTextPercent, letters + "_!()$+=?@*#%/.';: "},
+                                                  {FilterTime, "1234567890:aApPmM "}};
     for (const auto& [filter, allowed] : filters) {
         for (int key = -1; key < 300; ++key) {
             const bool passes = key == 8 || (key > 0 && allowed.contains(QChar(key)));
@@ -30,11 +30,11 @@ TEST(KeyFilters, PassTheirCharactersAndBackspaceOnly) {
 }
 
 TEST(KeyFilters, AdmitLettersOfEveryLanguageWhereLettersGo) {
-    for (const KeyFilter& filter : {KeyFilter(FilterTextFull), FilterTextWide, FilterFileName}) {
+    for (const KeySet& filter : {KeySet(FilterTextFull), FilterTextWide, FilterFileName}) {
         for (const QChar letter : QString("éñßŁЖ中e\u0301")) EXPECT_TRUE(admits(filter, letter));
         for (const QChar other : QString("€“”–\u00a0\u200b")) EXPECT_FALSE(admits(filter, other));
     }
-    for (const KeyFilter& filter : {FilterNumeric, FilterMoney, FilterTime}) {
+    for (const KeySet& filter : {FilterNumeric, FilterMoney, FilterTime}) {
         EXPECT_TRUE(admits(filter, u'7'));
         EXPECT_FALSE(admits(filter, u'é'));
         EXPECT_FALSE(admits(filter, u'٣'));
