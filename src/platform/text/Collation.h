@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+// The order of the entries of a list. Entries are names of their own or columns joined for display, such as
+// "Last, First - birth date". They are ordered column by column, without regard to case, accented letters beside
+// their plain letters, birth dates as dates.
+
+/// Whether entry `left` stands before entry `right` in a list.
+bool listLess(const QString& left, const QString& right);
+
+/// Puts the entries with letters beyond ASCII to their place. The others must already stand in order, as a query with
+/// ORDER BY leaves them, and keep it; for n entries of which k move this takes n + k log n steps.
+void placeAccented(std::vector<QString>& entries);
