@@ -3,6 +3,10 @@
 #include "platform/text/Numbers.h"
 #include "store/RecordClass.h"
 
+namespace {
+const QDate unsetDate(1940, 1, 1);
+}
+
 Column::Column(RecordClass* owner, const char* name) : owner_(owner), name_(name) { owner->addColumn(this); }
 
 void Column::touch() {
@@ -33,14 +37,15 @@ void Whole::read(const datafile::Value& value) {
 
 QDate Day::today() const { return RecordClass::clockOf(*this).today(); }
 
-void Day::blank() { value_ = rule_ == NoDate::Empty ? QDate() : today(); }
+void Day::blank() { value_ = rule_ == NoDate::Today ? today() : rule_ == NoDate::Stamp ? unsetDate : QDate(); }
 
 void Day::read(const datafile::Value& value) {
     value_ = datafile::toDate(value);
     if (value_.isValid() || rule_ == NoDate::Empty) return;
-    value_ = rule_ == NoDate::Today ? today() : QDate(1940, 1, 1);
+    value_ = rule_ == NoDate::Today ? today() : unsetDate;
 }
 
 datafile::Value Day::stored(bool) const {
-    return datafile::fromDate(value_.isValid() || rule_ == NoDate::Empty ? value_ : today());
+    if (value_.isValid() || rule_ == NoDate::Empty) return datafile::fromDate(value_);
+    return datafile::fromDate(rule_ == NoDate::Today ? today() : unsetDate);
 }

@@ -131,7 +131,7 @@ private:
 enum class NoDate {
     Empty,  ///< stays without a date
     Today,
-    Stamp   ///< reads as 1/1/1940, older than any save
+    Stamp   ///< 1/1/1940, older than any save
 };
 
 class Day final : public Column {
@@ -151,4 +151,13 @@ private:
     QDate today() const;
     NoDate rule_;
     QDate value_;
+};
+
+/// The three columns that nearly every table ends with: when a row was last saved, and whether it is deleted.
+struct Stamps {
+    explicit Stamps(RecordClass* owner, int timeOtherwise = 1)
+        : DateStamp(owner, "DateStamp", NoDate::Stamp), TimeStamp(owner, "TimeStamp", {.otherwise = timeOtherwise}), DeletedFlag(owner, "DeletedFlag") {}
+    Day DateStamp;
+    Whole TimeStamp;
+    Flag DeletedFlag;
 };

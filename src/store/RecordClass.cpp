@@ -108,7 +108,7 @@ bool RecordClass::isValid(bool showError) const {
     return true;
 }
 
-void RecordClass::save(Stamps stamps) {
+void RecordClass::save(StampSource stamps) {
     if (!isChanged() || !isValid(false)) return;
     const bool adding = new_ || main_->recordCount() == 0;
     beforeWrite(adding);
@@ -128,11 +128,11 @@ void RecordClass::save(Stamps stamps) {
     clearFlags();
 }
 
-void RecordClass::write(bool adding, Stamps stamps) {
+void RecordClass::write(bool adding, StampSource stamps) {
     auto* day = find<Day>("DateStamp");
     auto* time = find<Whole>("TimeStamp");
     auto* deleted = find<Flag>("DeletedFlag");
-    if (stamps == Stamps::Fresh) {
+    if (stamps == StampSource::Fresh) {
         if (day) day->value_ = context_.clock.today(), day->assigned_ = true;
         if (time) time->value_ = context_.clock.secondsSinceMidnight(), time->assigned_ = true;
         if (deleted && adding) deleted->value_ = false;
@@ -189,7 +189,49 @@ bool RecordClass::findOrTell(const QString& criteria, const QString& name, bool 
     return false;
 }
 
+bool RecordClass::firstOrTell(bool show, bool loadRow, const FindTexts& texts) {
+    if (main_->recordCount() == 0) {
+        if (show) context_.dialogs.warning(QString::fromLatin1(texts.title), QString::fromLatin1(texts.onEmpty));
+        return false;
+    }
+    main_->moveFirst();
+    if (loadRow) load();
+    return true;
+}
+
+namespace {
+
+constexpr char notFoundTitle[] = "Record Not Found...";
+constexpr char emptyText[] = "No Records Found for %1.";
+constexpr char missText[] = "No Records found for %1.";
+
+}  // namespace
+
 bool RecordClass::findByName(const QString& name, bool show, bool loadRow) {
     return findOrTell(live(matches(rules_.naturalKey.front()->name(), name)), name, show, loadRow,
-                      {"Record Not Found...", "No Records Found for %1.", "No Records found for %1."});
+                      {notFoundTitle, emptyText, missText});
+}
+
+bool RecordClass::findAnyByName(const QString& name, bool show, bool loadRow) {
+    return findOrTell(matches(rules_.naturalKey.front()->name(), name), name, show, loadRow,
+                      {notFoundTitle, emptyText, missText});
+}
+
+bool RecordClass::findDeletedByName(const QString& name) {
+    return find(QStringLiteral("DeletedFlag = True AND ") + matches(rules_.naturalKey.front()->name(), name), false);
+}
+
+bool RecordClass::findById(const Key& key, int id, bool show, bool loadRow) {
+    return findOrTell(live(matches(key.name(), id)), {}, show, loadRow,
+                      {notFoundTitle, "No Records found.", "No Records found."});
+}
+
+void softDeleteAll(Recordset& rows, Clock& clock) {
+    for (; !rows.eof(); rows.moveNext()) {
+        rows.edit();
+        rows.set(QStringLiteral("DateStamp"), clock.today());
+        rows.set(QStringLiteral("TimeStamp"), clock.secondsSinceMidnight());
+        rows.set(QStringLiteral("DeletedFlag"), true);
+        rows.update();
+    }
 }

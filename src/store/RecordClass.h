@@ -56,9 +56,9 @@ public:
     void move(int code);
     /// Writes the row when dirty or new and valid, with fresh stamps; otherwise nothing. A new row takes the place of
     /// a soft-deleted one with the same natural key.
-    void save() { save(Stamps::Fresh); }
+    void save() { save(StampSource::Fresh); }
     /// As save, with the stamps and the deleted flag that the properties hold.
-    void saveMerge() { save(Stamps::Held); }
+    void saveMerge() { save(StampSource::Held); }
     /// Whether every required property is given; with `showError` the first that is not is raised.
     bool isValid(bool showError) const;
     /// Drops the edits: clears the flags and loads the current row again.
@@ -108,8 +108,14 @@ protected:
     datafile::Recordset& main() { return *main_; }
     /// find() that says in a warning box that nothing was found, when `show` is set.
     bool findOrTell(const QString& criteria, const QString& name, bool show, bool load, const FindTexts& texts);
-    /// findOrTell for the live row of that name, by the first column of the natural key.
+    /// Stands on the first row; an empty table is told with the title and `onEmpty`.
+    bool firstOrTell(bool show, bool load, const FindTexts& texts);
+    /// findOrTell by the first column of the natural key: the live row of that name, any row, a deleted one; the
+    /// live row with the key.
     bool findByName(const QString& name, bool show, bool load);
+    bool findAnyByName(const QString& name, bool show, bool load);
+    bool findDeletedByName(const QString& name);
+    bool findById(const Key& key, int id, bool show, bool load);
     void load();
     [[noreturn]] void raise(quint32 number) const;
     QString errorText(quint32 number) const;
@@ -124,12 +130,12 @@ protected:
 private:
     friend class Column;
     friend class Day;
-    enum class Stamps { Fresh, Held };
+    enum class StampSource { Fresh, Held };
 
     static Clock& clockOf(const Column& column) { return column.owner_->context_.clock; }
     void addColumn(Column* column) { columns_.push_back(column); }
-    void save(Stamps stamps);
-    void write(bool adding, Stamps stamps);
+    void save(StampSource stamps);
+    void write(bool adding, StampSource stamps);
     void clearFlags();
     template <class Kind>
     Kind* find(const char* name) const;
@@ -142,6 +148,9 @@ private:
     bool dirty_ = false;
     bool new_ = false;
 };
+
+/// Marks every row of the cursor as deleted, with fresh stamps. The caller holds the transaction.
+void softDeleteAll(datafile::Recordset& rows, Clock& clock);
 
 /// Criteria texts. `live` adds that the row is not deleted.
 QString live(const QString& criteria);

@@ -1,1 +1,0 @@
-#include "platform/settings/Settings.h"
