@@ -89,11 +89,16 @@ int Recordset::field(const QString& name) const {
     return *found;
 }
 
-QString Recordset::keyQuery(const QString& criteria, const char* ending) const {
-    QString text = QStringLiteral("SELECT rowid FROM ") + sql::identifier(query_.table);
+QString Recordset::rowsOf(const char* wanted, const QString& criteria) const {
+    QString text = QStringLiteral("SELECT %1 FROM %2").arg(QLatin1String(wanted), sql::identifier(query_.table));
     if (!query_.where.isEmpty()) text += QStringLiteral(" WHERE (") + query_.where + u')';
     if (!criteria.isEmpty())
         text += (query_.where.isEmpty() ? QStringLiteral(" WHERE (") : QStringLiteral(" AND (")) + criteria + u')';
+    return text;
+}
+
+QString Recordset::keyQuery(const QString& criteria, const char* ending) const {
+    QString text = rowsOf("rowid", criteria);
     if (!query_.orderBy.isEmpty()) text += QStringLiteral(" ORDER BY ") + query_.orderBy;
     else if (criteria.isEmpty()) text += QStringLiteral(" ORDER BY rowid");
     return text + QLatin1String(ending);
@@ -243,10 +248,7 @@ void Recordset::findFirst(const QString& criteria) {
 int Recordset::recordCount() {
     refreshAfterReplacement();
     if (keys_) return static_cast<int>(keys_->size());
-    QString text = keyQuery({}, "");
-    text.replace(0, QStringLiteral("SELECT rowid").size(), QStringLiteral("SELECT count(*)"));
-    text.truncate(text.indexOf(QStringLiteral(" ORDER BY ")));
-    Statement count(*connection_, text);
+    Statement count(*connection_, rowsOf("count(*)", {}));
     count.bind(shape_.values, static_cast<size_t>(query_.columnValues), static_cast<size_t>(query_.whereValues)).step();
     return static_cast<int>(count.number(0));
 }
@@ -263,11 +265,12 @@ void Recordset::setBookmark(Bookmark row) {
 const Value& Recordset::value(int field) {
     refreshAfterReplacement();
     if (place_ != Place::Row) throw Error(Fault::NoCurrentRecord, tr("There is no current record."));
-    if (!rowLoaded_) loadRow();
+    if (!rowLoaded_ || (type_ == Type::Dynaset && rowChanges_ != connection_->changes())) loadRow();
     return row_[static_cast<size_t>(field)];
 }
 
 void Recordset::loadRow() {
+    rowChanges_ = connection_->changes();
     if (type_ == Type::Snapshot) {
         row_ = snapshot_[static_cast<size_t>(current_ - 1)];
         rowLoaded_ = true;

@@ -97,6 +97,7 @@ private:
     void loadRow();
     void readAhead();
     void readSnapshot();
+    QString rowsOf(const char* wanted, const QString& criteria) const;
     QString keyQuery(const QString& criteria, const char* ending) const;
     Values keyValues(const Values& criteria = {}) const;
     void writeRow();
@@ -120,6 +121,7 @@ private:
 
     Values row_;
     bool rowLoaded_ = false;
+    qint64 rowChanges_ = 0;                ///< the connection's count of changes when the row was read
     int sequentialMoves_ = 0;
     std::vector<Values> ahead_;            ///< rows after the current one, read in one go
     size_t aheadFrom_ = 0;

@@ -1,0 +1,130 @@
+#include "league/clsDivision.h"
+#include "registration/clsRegistration.h"
+#include "support/LeagueFile.h"
+#include "support/Printing.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class RegistrationTest : public testing::Test {
+protected:
+    void add(const QString& last, const QString& first, QDate birth) {
+        player.NewPlayerRecord();
+        player.PlayerLastName = last;
+        player.PlayerFirstName = first;
+        player.PlayerBirthDate = birth;
+        player.SavePlayerRecord();
+    }
+    LeagueFile league;
+    clsRegistration player{league.context};
+};
+
+TEST_F(RegistrationTest, PlayersAreFoundByTheTextOfTheirEntry) {
+    const struct { const char* last; const char* first; QDate birth; } children[]{
+        {"Smith", "Ann", QDate(2012, 4, 2)},      {"Smith-Jones", "Mary-Ann", QDate(2011, 12, 31)}, {"O\"Neil", "D'Arcy", QDate(1929, 1, 9)},
+        {"van der Berg", "Jo - El", QDate(2029, 1, 9)}, {"Peña", "Zoë", QDate(2012, 4, 2)}, {"O\"Neil", "D'Arcy", QDate(2029, 1, 9)}};
+    for (const auto& child : children) add(child.last, child.first, child.birth);
+    EXPECT_EQ(player.recordCount(), 6);
+    for (const auto& child : children) {
+        const QString key = PlayerKey{child.last, child.first, child.birth}.text();
+        EXPECT_TRUE(player.FindPlayerRecord(key, false, true)) << key.toStdString();
+        EXPECT_EQ(player.PlayerLastName(), child.last);
+        EXPECT_EQ(player.PlayerFirstName(), child.first);
+        EXPECT_EQ(player.PlayerBirthDate(), child.birth) << "all four digits of the year count";
+    }
+    league.dialogs.expectInformation({}, "No Records found for Smith, Bob.");
+    EXPECT_FALSE(player.FindPlayerRecord("Smith, Bob - 4/2/2012", true, true));
+}
+
+TEST_F(RegistrationTest, AddNeverDoublesAChildAndLeavesItWithoutATeam) {
+    add("Smith", "Ann", QDate(2012, 4, 2));
+    league.database().execute("UPDATE tblRegistration SET [PlayerTeamId] = 4");
+    player.FindPlayerRecord("Smith, Ann - 4/2/2012", false, true);
+    player.PlayerCity = "Oakville";
+    player.SavePlayerRecord();
+    EXPECT_EQ(league.value("tblRegistration", "PlayerTeamId"), "4");
+    player.DeletePlayerRecord();
+    EXPECT_EQ(league.value("tblRegistration", "PlayerActive"), "0");
+    EXPECT_EQ(player.PlayerLastName(), "");
+    add("smith", "ann", QDate(2012, 4, 2));
+    EXPECT_EQ(league.count("tblRegistration"), 1);
+    EXPECT_EQ(league.value("tblRegistration", "DeletedFlag"), "0");
+    EXPECT_EQ(league.value("tblRegistration", "PlayerTeamId"), "0");
+    EXPECT_EQ(league.value("tblRegistration", "PlayerActive"), "1");
+    int count = -1;
+    player.CountPlayers(2, count);
+    EXPECT_EQ(count, 1);
+    player.CountPlayers(4, count);
+    EXPECT_EQ(count, 0);
+}
+
+TEST_F(RegistrationTest, StoredAgeFollowsTheDivisionsOrTheDefaultCutOff) {
+    league.database().execute("INSERT INTO tblDefaults ([DefaultAgeCutoffMonth], [DefaultAgeCutoffDay]) VALUES (\"5\", \"15\")");
+    league.database().execute("INSERT INTO tblDivision ([DivName], [DivAgeCutOffMonth], [DivAgeCutOffDay]) VALUES (\"Minors\", \"8\", \"\")");
+    clsRegistration child(league.context);
+    const auto ageIn = [&](int division, QDate birth) {
+        child.NewPlayerRecord();
+        child.PlayerLastName = "Smith";
+        child.PlayerFirstName = "Ann";
+        child.PlayerBirthDate = birth;
+        child.PlayerDivisionId = division;
+        child.SavePlayerRecord();
+        return child.PlayerAge();
+    };
+    EXPECT_EQ(ageIn(1, QDate(2012, 8, 1)), "14") << "a division's blank day is the first";
+    EXPECT_EQ(ageIn(1, QDate(2012, 8, 2)), "13");
+    EXPECT_EQ(ageIn(0, QDate(2012, 5, 15)), "14");
+    EXPECT_EQ(ageIn(99, QDate(2012, 5, 16)), "13") << "a division that is gone leaves the defaults";
+}
+
+TEST_F(RegistrationTest, NewAndSiblingRecordsStartFromTheirDefaults) {
+    add("Smith", "Ann", QDate(2012, 4, 2));
+    player.PlayerCity = "Oakville";
+    player.PlayerDadLastName = "Smith";
+    player.PlayerDoctorName = "Dr. Wu";
+    player.PlayerFeeAmount = "85.00";
+    player.PlayerDadVolunteer = 0;
+    player.SavePlayerRecord();
+    player.NewSiblingPlayerRecord();
+    EXPECT_TRUE(player.IsPlayerNew());
+    EXPECT_FALSE(player.IsPlayerDirty());
+    EXPECT_EQ(player.PlayerFirstName(), "");
+    EXPECT_EQ(player.PlayerDadLastName(), "Smith");
+    EXPECT_EQ(player.PlayerDoctorName(), "Dr. Wu");
+    EXPECT_EQ(player.PlayerBirthDate(), QDate(2012, 4, 2));
+    EXPECT_EQ(player.PlayerDadVolunteer, 1);
+    EXPECT_EQ(player.PlayerFundRaiserFee(), "0");
+    player.UndoPlayerRecord();
+    EXPECT_EQ(player.PlayerFirstName(), "Ann");
+    EXPECT_EQ(player.PlayerDadVolunteer, 0);
+    player.NewPlayerRecord();
+    EXPECT_EQ(player.PlayerCity(), "Oakville");
+    EXPECT_EQ(player.PlayerFeeAmount(), "85.00");
+    EXPECT_EQ(player.PlayerDoctorName(), "");
+    EXPECT_EQ(player.PlayerBirthDate(), QDate(2026, 4, 22));
+    EXPECT_TRUE(player.PlayerBirthCertificateChecked);
+    EXPECT_FALSE(player.PlayerSendInvitation);
+}
+
+TEST_F(RegistrationTest, RequiredFieldsHaveTheirNumbers) {
+    player.NewPlayerRecord();
+    const auto number = [&] {
+        try {
+            player.IsPlayerValid(true);
+        } catch (const RecordError& error) {
+            return error.number();
+        }
+        return 0u;
+    };
+    EXPECT_EQ(number(), 0x80040000u + 1013);
+    player.PlayerLastName = "Smith";
+    EXPECT_EQ(number(), 0x80040000u + 1014);
+    player.PlayerFirstName = "Ann";
+    player.PlayerBirthDate = QDate();
+    EXPECT_EQ(number(), 0x80040000u + 1016);
+    player.PlayerBirthDate = QDate(2012, 4, 2);
+    EXPECT_EQ(number(), 0u);
+}
+
+}  // namespace
