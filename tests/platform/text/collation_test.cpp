@@ -24,7 +24,7 @@ TEST(Collation, OrdersListsAsAReaderLooksThemUp) {
         "Pena, Zoe",  // the first column is the same: the second decides
         "Smith, Zoë - 1/1/2010",
         "Smith, Zoe - 3/4/2015",
-        "Smith, Zoe - 10/1/2015",  // by date, not by text
+        "Smith, Zoe - 10/1/2015",      // by date, not by text
         "Smith Jones, Al - 1/1/2010",  // a longer name comes after all of the shorter one
         "SMITH-JONES, Al - 1/1/2010",
         "Straße, Al",
