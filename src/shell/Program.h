@@ -17,4 +17,14 @@ struct Program {
     Dialogs& dialogs() const { return store.dialogs; }
     Clock& clock() const { return store.clock; }
     Globals& globals() const { return store.globals; }
+
+    /// Where the program puts a file "beside itself", and looks first for one: its own folder when that holds the
+    /// data file and can be written, otherwise the per-user folder, which is made when it is missing.
+    QString homeFolder() const;
+    /// The path of an existing file of that name in the program's folder, else in the per-user folder, else empty.
+    QString findFile(const QString& name) const;
 };
+
+inline constexpr char dataFileName[] = "Kestrelmoor.kmr";
+inline constexpr char baseFileName[] = "Kestrelmoor.base";  ///< the empty data file with which a first start begins
+inline constexpr char helpFileName[] = "Kestrelmoor.hlp";
