@@ -24,8 +24,8 @@ struct Cell {
 /// One filled line of a report.
 struct Band {
     BandKind kind = BandKind::Detail;
-    /// Depth in the report: the title below 0, then groups, column heads, rows, the parts of their sub-reports. A header
-    /// holds until a band of its own or a lower level comes.
+    /// Depth in the report: the title below 0, then groups, column heads, rows, the parts of their sub-reports. A
+    /// header holds until a band of its own or a lower level comes.
     int level = 0;
     int indent = 0;  ///< how many reports this one is nested in
     bool keepWithPrevious = false;

@@ -13,8 +13,8 @@ constexpr double ruleThickness = 0.6 * unitsPerPoint;
 
 /// Room around the text of a band, in points.
 struct Spacing {
-    double before;   ///< white space above
-    double above;    ///< between the band's upper edge (rule, shade) and the text
+    double before;  ///< white space above
+    double above;   ///< between the band's upper edge (rule, shade) and the text
     double below;
 };
 
@@ -23,7 +23,7 @@ Spacing spacingOf(const Band& band) {
         case BandKind::Title: return {0, 0, band.keepWithPrevious ? 8.0 : 1.0};
         case BandKind::GroupHeader: return {7, 2.5, 2.5};
         case BandKind::ColumnHeads: return {3, 2, 2.5};
-        case BandKind::Detail: return {0, 1.5, 1.5};
+        case BandKind::Detail: return {0, 2, 2};
         case BandKind::GroupFooter: return {1.5, 2.5, 2};
         case BandKind::Totals: return {5, 3, 2};
     }
@@ -94,12 +94,12 @@ double place(const Cell& cell, const std::vector<TextLine>& lines, quint8 font, 
 void addRules(const Band& band, const Spacing& spacing, double left, double width, LaidBand& laid) {
     const double before = spacing.before * unitsPerPoint;
     if (band.kind == BandKind::GroupHeader && band.level == 0)
-        laid.piece.rules.push_back({QRectF(left, before, width, laid.height - before), Ink::Shade});
+        laid.piece.rules.push_back({QRectF(left, before, width, laid.height - before), Ink::Light});
     if (band.kind == BandKind::ColumnHeads)
-        laid.piece.rules.push_back({QRectF(left, laid.height - ruleThickness, width, ruleThickness), Ink::Line});
+        laid.piece.rules.push_back({QRectF(left, laid.height - ruleThickness, width, ruleThickness), Ink::Dark});
     if (band.kind == BandKind::GroupFooter || band.kind == BandKind::Totals) {
         const double thickness = band.kind == BandKind::Totals ? 2 * ruleThickness : ruleThickness;
-        laid.piece.rules.push_back({QRectF(left, before, width, thickness), Ink::Line});
+        laid.piece.rules.push_back({QRectF(left, before, width, thickness), Ink::Dark});
     }
 }
 
@@ -113,8 +113,16 @@ LaidBand layOut(const Band& band, double left, double width, FontBook& fonts, do
     const bool shaded = band.kind == BandKind::GroupHeader && band.level == 0;
     const double inset = shaded ? cellGap / 2 : 0;
 
+    std::vector<quint8> faces;
     double shares = 0;
-    for (const Cell& cell : band.cells) shares += cell.share;
+    double ascent = 0;  // all first lines of a band stand on one base line
+    for (const Cell& cell : band.cells) {
+        shares += cell.share;
+        TextStyle style = cell.style;
+        style.points *= fontScale;
+        faces.push_back(fonts.idOf(style));
+        ascent = std::max(ascent, fonts.face(faces.back()).ascent());
+    }
     LaidBand laid{.level = band.level, .header = band.isHeader()};
     double bottom = top;
     double x = left + inset;
@@ -123,14 +131,13 @@ LaidBand layOut(const Band& band, double left, double width, FontBook& fonts, do
         const Cell& cell = band.cells[index];
         const double cellWidth = (width - 2 * inset) * cell.share / shares;
         const double textWidth = index + 1 == band.cells.size() ? cellWidth : cellWidth - cellGap;
-        TextStyle style = cell.style;
-        style.points *= fontScale;
-        const quint8 font = fonts.idOf(style);
-        bottom = std::max(bottom, top + fonts.face(font).lineHeight());
+        const Face& face = fonts.face(faces[index]);
+        const double cellTop = top + ascent - face.ascent();
+        bottom = std::max(bottom, cellTop + face.lineHeight());
         if (!cell.text.isEmpty()) {
             lines.clear();
-            wrap(cell.text, fonts.face(font), textWidth, lines);
-            bottom = std::max(bottom, place(cell, lines, font, x, textWidth, top, laid.piece));
+            wrap(cell.text, face, textWidth, lines);
+            bottom = std::max(bottom, place(cell, lines, faces[index], x, textWidth, cellTop, laid.piece));
         }
         x += cellWidth;
     }

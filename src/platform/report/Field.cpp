@@ -13,8 +13,9 @@ namespace {
 int columnOf(const RowSource& source, const QString& name) {
     const int column = source.column(name);
     if (column < 0)
-        throw ReportError(QCoreApplication::translate("report", "The report needs the column \"%1\", which the data "
-                                                                "it reads does not have.")
+        throw ReportError(QCoreApplication::translate("report",
+                                                      "The report needs the column \"%1\", which the data "
+                                                      "it reads does not have.")
                               .arg(name));
     return column;
 }

@@ -30,9 +30,7 @@ QFont makeFont(const TextStyle& style) {
     return font;
 }
 
-char16_t characterAt(size_t slot) {
-    return char16_t(slot < latinEnd ? slot : punctuationStart + (slot - latinEnd));
-}
+char16_t characterAt(size_t slot) { return char16_t(slot < latinEnd ? slot : punctuationStart + (slot - latinEnd)); }
 
 bool isDrawable(char16_t character) {
     return character >= 0x20 && (character < 0x7f || character >= 0xa0) && character != 0xad;
@@ -40,8 +38,7 @@ bool isDrawable(char16_t character) {
 
 }  // namespace
 
-Face::Face(const TextStyle& style)
-    : font_(makeFont(style)), rawFont_(QRawFont::fromFont(font_)), glyphs_(glyphCount) {
+Face::Face(const TextStyle& style) : font_(makeFont(style)), rawFont_(QRawFont::fromFont(font_)), glyphs_(glyphCount) {
     QString characters(qsizetype(glyphCount), u' ');
     for (size_t slot = 0; slot < glyphCount; ++slot) characters[qsizetype(slot)] = characterAt(slot);
     const QVector<quint32> indexes = rawFont_.glyphIndexesForString(characters);

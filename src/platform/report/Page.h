@@ -10,17 +10,17 @@ namespace report {
 struct TextItem {
     float x = 0;
     float baseline = 0;
-    quint32 start = 0;   ///< in the page's text
+    quint32 start = 0;  ///< in the page's text
     quint16 length = 0;
-    quint8 font = 0;     ///< number in the paginator's font book
-    bool plain = true;   ///< drawn glyph by glyph; else shaped
+    quint8 font = 0;    ///< number in the paginator's font book
+    bool plain = true;  ///< drawn glyph by glyph; else shaped
 };
 
-enum class Ink : quint8 { Line, Shade };
+enum class Ink : quint8 { Dark, Light };
 
 struct Rule {
     QRectF area;
-    Ink ink = Ink::Line;
+    Ink ink = Ink::Dark;
 };
 
 /// Positioned lines of text and rules. The texts of all items stand in one string, in reading order, separated by

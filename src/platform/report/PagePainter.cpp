@@ -34,8 +34,7 @@ double cursorX(const Face& face, QStringView text, bool plain, qsizetype index) 
 }  // namespace
 
 void PagePainter::paint(QPainter& painter, const Page& page, double top, double bottom) {
-    for (const Rule& rule : page.rules)
-        painter.fillRect(rule.area, rule.ink == Ink::Line ? lineColor : shadeColor);
+    for (const Rule& rule : page.rules) painter.fillRect(rule.area, rule.ink == Ink::Dark ? lineColor : shadeColor);
     painter.setPen(textColor);
     for (const TextItem& item : page.items) {
         const Face& face = pages_.fonts().face(item.font);
@@ -50,9 +49,9 @@ void PagePainter::paintFoot(QPainter& painter, int index) {
     const Face& face = pages_.fonts().face(pages_.footerFont());
     const double baseline = area.bottom() * unitsPerPoint - face.descent();
     const QString number = QString::number(index + 1);
-    const QString page = pages_.isComplete()
-                             ? QCoreApplication::translate("report", "Page %1 of %2").arg(number).arg(pages_.pageCount())
-                             : QCoreApplication::translate("report", "Page %1").arg(number);
+    const QString page =
+        pages_.isComplete() ? QCoreApplication::translate("report", "Page %1 of %2").arg(number).arg(pages_.pageCount())
+                            : QCoreApplication::translate("report", "Page %1").arg(number);
     const auto draw = [&](const QString& text, bool right) {
         const double width = face.plainWidth(text);
         const double left = area.left() * unitsPerPoint;
@@ -98,7 +97,8 @@ std::vector<QRectF> areasOf(const Paginator& pages, const Page& page, qsizetype 
         const Face& face = pages.fonts().face(item.font);
         const double left = cursorX(face, page.textOf(item), item.plain, from - item.start);
         const double right = cursorX(face, page.textOf(item), item.plain, to - item.start);
-        areas.emplace_back(QRectF(item.x + left, item.baseline - face.ascent(), right - left, face.lineHeight()).normalized());
+        areas.emplace_back(
+            QRectF(item.x + left, item.baseline - face.ascent(), right - left, face.lineHeight()).normalized());
     }
     return areas;
 }

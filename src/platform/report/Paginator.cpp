@@ -125,7 +125,9 @@ void Paginator::placeSplit(LaidBand band) {
     double top = 0;
     while (!rest.empty()) {
         const double space = body_.bottom() - y_;
-        const auto bottomOf = [&](const TextItem& item) { return item.baseline + fonts_.face(item.font).descent() - top; };
+        const auto bottomOf = [&](const TextItem& item) {
+            return item.baseline + fonts_.face(item.font).descent() - top;
+        };
         const auto topOf = [&](const TextItem& item) { return item.baseline - fonts_.face(item.font).ascent(); };
         auto fitting = std::stable_partition(rest.begin(), rest.end(),
                                              [&](const TextItem& item) { return bottomOf(item) <= space; });

@@ -55,8 +55,8 @@ private:
     std::vector<std::unique_ptr<Page>> pages_;
     Page current_;
     double y_;
-    double freshY_;  ///< y_ of a page that holds nothing but repeated headers
-    int slot_ = 0;   ///< the next label of the sheet
+    double freshY_;            ///< y_ of a page that holds nothing but repeated headers
+    int slot_ = 0;             ///< the next label of the sheet
     std::vector<Band> block_;  ///< bands that no page break may part
     std::optional<Band> ahead_;
     std::vector<LaidBand> headers_;  ///< those that hold, outermost first

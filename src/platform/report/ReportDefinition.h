@@ -35,13 +35,13 @@ struct Group {
 struct LabelSheet {
     int columns = 3;
     int rows = 10;
-    double left = 13.5;     ///< from the paper's edge to the first label
+    double left = 13.5;  ///< from the paper's edge to the first label
     double top = 36;
-    double across = 198;    ///< from one label's left edge to the next one's
-    double down = 72;       ///< from one label's top to the next one's
-    double inset = 10;      ///< from a label's edge to its text
+    double across = 198;  ///< from one label's left edge to the next one's
+    double down = 72;     ///< from one label's top to the next one's
+    double inset = 10;    ///< from a label's edge to its text
     double width = 189;
-    int skip = 0;           ///< labels already used on the first sheet
+    int skip = 0;  ///< labels already used on the first sheet
 };
 
 /// What a report prints, as plain data. Whoever runs it has put selection, organisation and date into it; nothing here
@@ -56,12 +56,12 @@ struct ReportDefinition {
     double points = 9;  ///< size of the detail text
     bool landscape = false;
     std::vector<Group> groups{};
-    Line columns{};                             ///< a list: heads and one line for each row
-    std::vector<Line> lines{};                  ///< further lines of each row, or, without columns, a record of lines
-    bool rowStartsPage = false;                 ///< each row on a page of its own
+    Line columns{};                              ///< a list: heads and one line for each row
+    std::vector<Line> lines{};                   ///< further lines of each row, or, without columns, a record of lines
+    bool rowStartsPage = false;                  ///< each row on a page of its own
     std::vector<ReportDefinition> subReports{};  ///< printed under each row
-    QStringList boundTo{};                      ///< of a sub-report: the parent's columns that its query takes as values
-    std::optional<Field> totals{};              ///< caption of the totals of the whole report
+    QStringList boundTo{};          ///< of a sub-report: the parent's columns that its query takes as values
+    std::optional<Field> totals{};  ///< caption of the totals of the whole report
     std::optional<LabelSheet> labels{};
 };
 

@@ -142,10 +142,9 @@ void ReportFiller::addTitle() {
         {.text = definition_->organization, .alignment = Alignment::Center, .style = style(true, 3)}};
     Band& band = add(BandKind::Title, -1);
     band.keepWithPrevious = true;
-    const QString asOf =
-        definition_->asOf.isEmpty()
-            ? QString()
-            : QString(QCoreApplication::translate("report", "As Of:") % u' ' % definition_->asOf);
+    const QString asOf = definition_->asOf.isEmpty()
+                             ? QString()
+                             : QString(QCoreApplication::translate("report", "As Of:") % u' ' % definition_->asOf);
     band.cells = {{.share = 1, .style = style(false)},
                   {.text = definition_->title, .alignment = Alignment::Center, .share = 3, .style = style(true, 7)},
                   {.text = asOf, .alignment = Alignment::Right, .share = 1, .style = style(false)}};
@@ -180,10 +179,8 @@ void ReportFiller::addColumnHeads() {
     if (std::none_of(definition_->columns.begin(), definition_->columns.end(), hasCaption)) return;
     Band& band = add(BandKind::ColumnHeads, detailLevel_ - 1);
     for (const Column& column : definition_->columns)
-        band.cells.push_back({.text = column.caption,
-                              .alignment = alignmentOf(column),
-                              .share = column.share,
-                              .style = style(true)});
+        band.cells.push_back(
+            {.text = column.caption, .alignment = alignmentOf(column), .share = column.share, .style = style(true)});
 }
 
 void ReportFiller::addDetail() {

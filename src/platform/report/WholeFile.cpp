@@ -51,8 +51,8 @@ void WholeFile::commit() {
 }
 
 void WholeFile::fail(const QString& reason) const {
-    throw ReportError(QCoreApplication::translate("report", "The file \"%1\" could not be written.\n%2")
-                          .arg(shownName_, reason));
+    throw ReportError(
+        QCoreApplication::translate("report", "The file \"%1\" could not be written.\n%2").arg(shownName_, reason));
 }
 
 }  // namespace report
