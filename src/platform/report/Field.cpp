@@ -2,9 +2,10 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <cmath>
 
 #include "platform/report/ReportError.h"
+#include "platform/text/Dates.h"
+#include "platform/text/Money.h"
 
 namespace report {
 
@@ -20,31 +21,22 @@ int columnOf(const RowSource& source, const QString& name) {
     return column;
 }
 
-QDate dateOf(const QVariant& value) {
-    const int type = value.typeId();
-    if (type == QMetaType::QDate || type == QMetaType::QDateTime) return value.toDate();
-    return QDate::fromString(value.toString().left(10), Qt::ISODate);
-}
-
-QTime timeOf(const QVariant& value) {
-    const int type = value.typeId();
-    if (type == QMetaType::QTime || type == QMetaType::QDateTime) return value.toTime();
-    const QString text = value.toString();
-    return QTime::fromString(text.mid(text.indexOf(u'T') + 1).mid(text.indexOf(u' ') + 1), Qt::ISODate);
-}
-
+/// Dates of the data file are in ISO form; others are as people type them.
 QString dateText(const QVariant& value) {
-    const QDate date = dateOf(value);
-    if (!date.isValid()) return value.toString();
-    return QString::number(date.month()) % u'/' % QString::number(date.day()) % u'/' % QString::number(date.year());
+    const int type = value.typeId();
+    if (type == QMetaType::QDate || type == QMetaType::QDateTime) return shortDate(value.toDate());
+    const QString text = value.toString();
+    const QDate date = QDate::fromString(text.left(10), Qt::ISODate);
+    if (date.isValid()) return shortDate(date);
+    const auto typed = parseDate(text);
+    return typed ? shortDate(*typed) : text;
 }
 
 QString timeText(const QVariant& value) {
-    const QTime time = timeOf(value);
-    if (!time.isValid()) return value.toString();
-    const int hour = time.hour() % 12 == 0 ? 12 : time.hour() % 12;
-    return QString::number(hour) % u':' % QString::number(time.minute()).rightJustified(2, u'0') %
-           QLatin1String(time.hour() < 12 ? " AM" : " PM");
+    const int type = value.typeId();
+    if (type == QMetaType::QTime || type == QMetaType::QDateTime) return formatTime(value.toTime());
+    const auto time = parseTime(value.toString());
+    return time ? formatTime(*time) : value.toString();
 }
 
 QString phoneText(const QString& area, const QString& number) {
@@ -122,28 +114,13 @@ QString BoundField::evaluate(const RowSource& source, QVariant& value) const {
 QString formatted(const QVariant& value, Format format) {
     switch (format) {
         case Format::Money: {
-            const auto amount = tenThousandths(value);
-            return amount ? moneyText(*amount) : value.toString();
+            const auto amount = Money::parse(value.toString());
+            return amount ? amount->text() : value.toString();
         }
         case Format::Date: return dateText(value);
         case Format::Time: return timeText(value);
         default: return value.toString();
     }
-}
-
-std::optional<qint64> tenThousandths(const QVariant& value) {
-    bool ok = false;
-    const double number = value.toDouble(&ok);
-    if (!ok || !(std::abs(number) < 9.0e13)) return std::nullopt;
-    return std::llround(number * 10000.0);
-}
-
-QString moneyText(qint64 tenThousandths) {
-    const qint64 cents = (std::abs(tenThousandths) + 50) / 100;
-    QString text = QString::number(cents / 100);
-    for (qsizetype at = text.size() - 3; at > 0; at -= 3) text.insert(at, u',');
-    const QString amount = u'$' % text % u'.' % QString::number(cents % 100).rightJustified(2, u'0');
-    return tenThousandths < 0 && cents > 0 ? QString(u'(' % amount % u')') : amount;
 }
 
 }  // namespace report

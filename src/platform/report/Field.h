@@ -12,7 +12,7 @@ enum class Format {
     Text,
     Money,      ///< "$#,##0.00", negative amounts in parentheses; a text that is no number stays as it is
     Date,       ///< "M/d/yyyy"
-    Time,       ///< "h:mm AM/PM"
+    Time,       ///< "h:Nn AM/PM"
     Phone,      ///< area and number columns: "(555) 123-4567"; without an area the number alone
     LastFirst,  ///< last and first name columns: "Smith, John"
     FirstLast   ///< last and first name columns: "John Smith"
@@ -70,8 +70,5 @@ private:
 
 /// The printed form of a single value (every format but those made of two columns).
 QString formatted(const QVariant& value, Format format);
-/// An amount in ten-thousandths, nothing where the value is no number.
-std::optional<qint64> tenThousandths(const QVariant& value);
-QString moneyText(qint64 tenThousandths);
 
 }  // namespace report

@@ -9,6 +9,7 @@
 namespace report {
 
 enum class Alignment { Left, Center, Right };
+/// Sums are exact to the hundredth; what is no number counts as none.
 enum class Total { None, Sum, Count };
 
 /// One column of a list, or one cell of a line.

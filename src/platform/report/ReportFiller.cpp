@@ -9,16 +9,16 @@ namespace report {
 
 namespace {
 
-constexpr qint64 one = 10000;  // sums are kept in ten-thousandths
+constexpr Money one{100};
 
 Alignment alignmentOf(const Column& column) {
     if (column.alignment) return *column.alignment;
     return column.field.format == Format::Money ? Alignment::Right : Alignment::Left;
 }
 
-QString totalText(const Column& column, qint64 sum) {
-    if (column.total == Total::Sum && column.field.format == Format::Money) return moneyText(sum);
-    return sum % one == 0 ? QString::number(sum / one) : QString::number(double(sum) / one);
+QString totalText(const Column& column, Money sum) {
+    if (column.total == Total::Sum && column.field.format == Format::Money) return sum.text();
+    return sum.text(sum.cents % one.cents == 0 ? QStringLiteral("0") : QStringLiteral("0.00"));
 }
 
 }  // namespace
@@ -50,7 +50,7 @@ void ReportFiller::bind() {
         for (const QString& name : part.boundTo) keys.emplace_back(column(name), *source_);
         subReportKeys_.push_back(std::move(keys));
     }
-    sums_.assign(groups_.size() + 1, Sums(columns_.size(), 0));
+    sums_.assign(groups_.size() + 1, Sums(columns_.size()));
 }
 
 ReportFiller::BoundLine ReportFiller::bound(const Line& line) const {
@@ -195,8 +195,7 @@ void ReportFiller::addDetail() {
     for (size_t index = 0; index < columns_.size(); ++index) {
         const Total total = columns_[index].column->total;
         if (total == Total::None) continue;
-        const qint64 amount =
-            total == Total::Count ? one : tenThousandths(ready_.back().cells[index].value).value_or(0);
+        const Money amount = total == Total::Count ? one : Money::orZero(ready_.back().cells[index].value.toString());
         for (Sums& sums : sums_) sums[index] += amount;
     }
     for (const BoundLine& line : lines_) addLine(line);
@@ -215,7 +214,7 @@ void ReportFiller::addFooters(size_t fromGroup) {
     for (size_t group = groups_.size(); group-- > fromGroup;) {
         if (definition_->groups[group].footer)
             addTotals(BandKind::GroupFooter, detailLevel_, groups_[group].footer, sums_[group]);
-        std::fill(sums_[group].begin(), sums_[group].end(), 0);
+        std::fill(sums_[group].begin(), sums_[group].end(), Money{});
     }
 }
 
@@ -242,7 +241,7 @@ void ReportFiller::addTotals(BandKind kind, int level, const QString& caption, c
         cell.style = style(true);
         if (!hasTotal) continue;
         cell.format = column.field.format;
-        cell.value = double(sums[index]) / one;
+        cell.value = double(sums[index].cents) / one.cents;
         cell.text = totalText(column, sums[index]);
     }
     if (inLead) {

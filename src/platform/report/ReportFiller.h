@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/report/Band.h"
+#include "platform/text/Money.h"
 
 namespace report {
 
@@ -36,7 +37,7 @@ private:
         BoundLine header;
         QString footer;  ///< its caption, taken from the group's first row
     };
-    using Sums = std::vector<qint64>;  ///< one a column
+    using Sums = std::vector<Money>;  ///< one a column; counts are whole dollars
 
     ReportFiller(std::shared_ptr<const ReportDefinition> definition, RowSourceFactory rows, const Place& place);
     void bind();
