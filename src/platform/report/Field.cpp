@@ -1,0 +1,126 @@
+#include "platform/report/Field.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+
+#include "platform/report/ReportError.h"
+#include "platform/text/Dates.h"
+#include "platform/text/Money.h"
+
+namespace report {
+
+namespace {
+
+int columnOf(const RowSource& source, const QString& name) {
+    const int column = source.column(name);
+    if (column < 0)
+        throw ReportError(QCoreApplication::translate("report",
+                                                      "The report needs the column \"%1\", which the data "
+                                                      "it reads does not have.")
+                              .arg(name));
+    return column;
+}
+
+/// Dates of the data file are in ISO form; others are as people type them.
+QString dateText(const QVariant& value) {
+    const int type = value.typeId();
+    if (type == QMetaType::QDate || type == QMetaType::QDateTime) return shortDate(value.toDate());
+    const QString text = value.toString();
+    const QDate date = QDate::fromString(text.left(10), Qt::ISODate);
+    if (date.isValid()) return shortDate(date);
+    const auto typed = parseDate(text);
+    return typed ? shortDate(*typed) : text;
+}
+
+QString timeText(const QVariant& value) {
+    const int type = value.typeId();
+    if (type == QMetaType::QTime || type == QMetaType::QDateTime) return formatTime(value.toTime());
+    const auto time = parseTime(value.toString());
+    return time ? formatTime(*time) : value.toString();
+}
+
+QString phoneText(const QString& area, const QString& number) {
+    QString digits;
+    for (const QChar c : number)
+        if (c.isDigit()) digits += c;
+    if (digits.isEmpty()) return {};
+    const QString shaped = digits.size() == 7 ? QString(digits.left(3) % u'-' % digits.mid(3)) : number.trimmed();
+    const QString code = area.trimmed();
+    return code.isEmpty() ? shaped : QString(u'(' % code % QLatin1String(") ") % shaped);
+}
+
+QString joined(const QString& first, QLatin1String separator, const QString& second) {
+    if (first.isEmpty() || second.isEmpty()) return first % second;
+    return first % separator % second;
+}
+
+}  // namespace
+
+QVariant Row::operator[](const QString& column) const { return source_.value(columnOf(source_, column)); }
+
+Field Field::before(QString text) const {
+    Field field = *this;
+    field.prefix = std::move(text);
+    return field;
+}
+
+Field Field::orElse(QString text) const {
+    Field field = *this;
+    field.whenEmpty = std::move(text);
+    return field;
+}
+
+Field fixed(QString text) { return Field{.prefix = std::move(text)}; }
+Field column(QString name) { return Field{.columns = {std::move(name)}}; }
+Field money(QString name) { return Field{.columns = {std::move(name)}, .format = Format::Money}; }
+Field date(QString name) { return Field{.columns = {std::move(name)}, .format = Format::Date}; }
+Field time(QString name) { return Field{.columns = {std::move(name)}, .format = Format::Time}; }
+Field phone(QString areaColumn, QString numberColumn) {
+    return Field{.columns = {std::move(areaColumn), std::move(numberColumn)}, .format = Format::Phone};
+}
+Field lastFirst(QString lastColumn, QString firstColumn) {
+    return Field{.columns = {std::move(lastColumn), std::move(firstColumn)}, .format = Format::LastFirst};
+}
+Field firstLast(QString lastColumn, QString firstColumn) {
+    return Field{.columns = {std::move(lastColumn), std::move(firstColumn)}, .format = Format::FirstLast};
+}
+Field computed(std::function<QVariant(const Row&)> function, Format format) {
+    return Field{.format = format, .compute = std::move(function)};
+}
+
+BoundField::BoundField(const Field& field, const RowSource& source) : field_(&field) {
+    for (const QString& name : field.columns) columns_.push_back(columnOf(source, name));
+}
+
+QString BoundField::evaluate(const RowSource& source, QVariant& value) const {
+    QString text;
+    if (columns_.size() == 2) {
+        const QString first = source.value(columns_[0]).toString();
+        const QString second = source.value(columns_[1]).toString();
+        switch (field_->format) {
+            case Format::Phone: text = phoneText(first, second); break;
+            case Format::FirstLast: text = joined(second, QLatin1String(" "), first); break;
+            default: text = joined(first, QLatin1String(", "), second); break;
+        }
+        value = text;
+    } else if (!columns_.empty() || field_->compute) {
+        value = field_->compute ? field_->compute(Row(source)) : source.value(columns_[0]);
+        text = formatted(value, field_->format);
+    }
+    if (text.isEmpty()) text = field_->whenEmpty;
+    return field_->prefix.isEmpty() ? text : QString(field_->prefix % text);
+}
+
+QString formatted(const QVariant& value, Format format) {
+    switch (format) {
+        case Format::Money: {
+            const auto amount = Money::parse(value.toString());
+            return amount ? amount->text() : value.toString();
+        }
+        case Format::Date: return dateText(value);
+        case Format::Time: return timeText(value);
+        default: return value.toString();
+    }
+}
+
+}  // namespace report

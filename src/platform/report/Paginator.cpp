@@ -1,0 +1,200 @@
+#include "platform/report/Paginator.h"
+
+#include <algorithm>
+
+namespace report {
+
+namespace {
+
+constexpr double footHeight = 22 * unitsPerPoint;
+constexpr double smallestLabelText = 0.5;
+
+QRectF inUnits(const QRectF& points) {
+    return {points.x() * unitsPerPoint, points.y() * unitsPerPoint, points.width() * unitsPerPoint,
+            points.height() * unitsPerPoint};
+}
+
+using Items = std::vector<TextItem>::iterator;
+
+/// Some of a piece's items with the text that belongs to them.
+Page part(const Page& piece, Items from, Items to) {
+    Page result;
+    for (Items item = from; item != to; ++item) {
+        TextItem moved = *item;
+        moved.start = quint32(result.text.size());
+        result.items.push_back(moved);
+        result.text += piece.textOf(*item);
+        result.text += u' ';
+    }
+    return result;
+}
+
+bool mayPart(const Band& above, const Band& below) {
+    if (below.startsPage) return true;
+    return !above.isHeader() && !below.keepWithPrevious && below.level <= above.level;
+}
+
+}  // namespace
+
+Paginator::Paginator(std::unique_ptr<BandSource> bands, const QPageLayout& paper, QString footer,
+                     std::optional<LabelSheet> labels)
+    : bands_(std::move(bands)),
+      paper_(paper),
+      footer_(std::move(footer)),
+      labels_(std::move(labels)),
+      body_(inUnits(paper.paintRect(QPageLayout::Point)).adjusted(0, 0, 0, -footHeight)),
+      footerFont_(fonts_.idOf(TextStyle{Typeface::Form, 8, false})),
+      y_(body_.top()),
+      freshY_(body_.top()) {
+    if (labels_) slot_ = labels_->skip;
+}
+
+const Page* Paginator::page(int index) {
+    while (index >= pageCount() && layOutMore()) {
+    }
+    return index < pageCount() ? pages_[size_t(index)].get() : nullptr;
+}
+
+void Paginator::layOutAll() {
+    while (layOutMore()) {
+    }
+}
+
+bool Paginator::layOutMore() {
+    const int before = pageCount();
+    while (!complete_ && pageCount() == before) {
+        if (readBlock()) {
+            if (labels_)
+                placeLabel();
+            else
+                placeBlock();
+        } else {
+            if (!current_.items.empty() || pages_.empty()) finishPage();
+            complete_ = true;
+            bands_.reset();
+        }
+    }
+    return pageCount() > before;
+}
+
+bool Paginator::readBlock() {
+    block_.clear();
+    if (ahead_) block_.push_back(std::move(*ahead_));
+    ahead_.reset();
+    Band band;
+    while (bands_->next(band)) {
+        if (!block_.empty() && mayPart(block_.back(), band)) {
+            ahead_ = std::move(band);
+            return true;
+        }
+        block_.push_back(std::move(band));
+    }
+    return !block_.empty();
+}
+
+void Paginator::placeBlock() {
+    std::vector<LaidBand> laid;
+    double height = 0;
+    for (const Band& band : block_) {
+        laid.push_back(laidOut(band));
+        height += laid.back().height;
+    }
+    dropHeaders(block_.front().level);
+    if (y_ > freshY_ && (block_.front().startsPage || y_ + height > body_.bottom())) startPage();
+    for (LaidBand& band : laid) place(std::move(band));
+}
+
+/// Appends one band at the foot of what the page holds, on a new page where it does not fit.
+void Paginator::place(LaidBand band) {
+    dropHeaders(band.level);
+    if (y_ + band.height > body_.bottom() && y_ > freshY_) startPage();
+    if (y_ + band.height > body_.bottom()) {
+        placeSplit(std::move(band));
+        return;
+    }
+    append(current_, band.piece, y_);
+    y_ += band.height;
+    if (!band.header) return;
+    if (y_ - band.height <= freshY_) freshY_ = y_;
+    headers_.push_back(std::move(band));
+}
+
+/// A band higher than a page goes on from page to page, line by line.
+void Paginator::placeSplit(LaidBand band) {
+    std::vector<TextItem> rest = std::move(band.piece.items);
+    double top = 0;
+    while (!rest.empty()) {
+        const double space = body_.bottom() - y_;
+        const auto bottomOf = [&](const TextItem& item) {
+            return item.baseline + fonts_.face(item.font).descent() - top;
+        };
+        const auto topOf = [&](const TextItem& item) { return item.baseline - fonts_.face(item.font).ascent(); };
+        auto fitting = std::stable_partition(rest.begin(), rest.end(),
+                                             [&](const TextItem& item) { return bottomOf(item) <= space; });
+        if (fitting == rest.begin()) ++fitting;  // a page lower than a line: better cut than endless
+        append(current_, part(band.piece, rest.begin(), fitting), y_ - top);
+        rest.erase(rest.begin(), fitting);
+        if (rest.empty()) break;
+        top = topOf(*std::min_element(rest.begin(), rest.end(), [&](const TextItem& left, const TextItem& right) {
+            return topOf(left) < topOf(right);
+        }));
+        startPage();
+    }
+    y_ += band.height - top;
+}
+
+/// Shrinks the text until it fits its label.
+void Paginator::placeLabel() {
+    const LabelSheet& sheet = *labels_;
+    const double height = sheet.down * unitsPerPoint;
+    std::vector<LaidBand> laid;
+    double used = 0;
+    for (double scale = 1; scale >= smallestLabelText; scale -= 0.1) {
+        laid.clear();
+        used = 0;
+        for (const Band& band : block_) {
+            laid.push_back(layOut(band, 0, (sheet.width - 2 * sheet.inset) * unitsPerPoint, fonts_, scale));
+            used += laid.back().height;
+        }
+        if (used <= height) break;
+    }
+    if (slot_ >= sheet.columns * sheet.rows) {
+        finishPage();
+        slot_ = 0;
+    }
+    const double x = (sheet.left + sheet.inset + (slot_ % sheet.columns) * sheet.across) * unitsPerPoint;
+    double y = sheet.top * unitsPerPoint + (slot_ / sheet.columns) * height + std::max(0.0, (height - used) / 2);
+    for (LaidBand& band : laid) {
+        for (TextItem& item : band.piece.items) item.x += float(x);
+        append(current_, band.piece, y);
+        y += band.height;
+    }
+    ++slot_;
+}
+
+void Paginator::dropHeaders(int level) {
+    while (!headers_.empty() && headers_.back().level >= level) headers_.pop_back();
+}
+
+void Paginator::startPage() {
+    finishPage();
+    double height = 0;
+    for (const LaidBand& header : headers_) height += header.height;
+    if (height < body_.height() / 2) {  // else they would leave no room for what they head
+        for (const LaidBand& header : headers_) {
+            append(current_, header.piece, y_);
+            y_ += header.height;
+        }
+    }
+    freshY_ = y_;
+}
+
+void Paginator::finishPage() {
+    current_.text.squeeze();
+    current_.items.shrink_to_fit();
+    pages_.push_back(std::make_unique<Page>(std::move(current_)));
+    current_ = Page();
+    y_ = freshY_ = body_.top();
+}
+
+}  // namespace report
