@@ -1,0 +1,48 @@
+#include "store/CorrectVersion.h"
+
+#include "platform/datafile/DataFile.h"
+#include "support/LeagueFile.h"
+#include "support/Printing.h"
+
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+
+namespace {
+
+class CorrectVersionTest : public testing::Test {
+protected:
+    void SetUp() override { QDir::setCurrent(league.folder.path()); }
+    void TearDown() override { QDir::setCurrent(QStringLiteral("/")); }
+    QString journal() {
+        QFile file(league.folder.filePath("Journal.Dat"));
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+    LeagueFile league;
+};
+
+TEST_F(CorrectVersionTest, CurrentFileIsCopiedAndItsWorkTablesEmptied) {
+    league.database().execute("INSERT INTO tblTempResults ([TeamName]) VALUES (\"Owls\")");
+    EXPECT_TRUE(CorrectVersion(league.context));
+    EXPECT_EQ(league.count("tblTempResults"), 0);
+    datafile::checkIntegrity(league.folder.filePath("Kestrelmoor.BKM"));
+    league.database().execute("UPDATE tblVersion SET [DBVersion] = \"Version 7\"");
+    EXPECT_TRUE(CorrectVersion(league.context)) << "an unknown version passes as current";
+    EXPECT_EQ(journal(), "");
+}
+
+TEST_F(CorrectVersionTest, OlderFileIsRefusedWithALineInTheJournal) {
+    league.database().execute("UPDATE tblVersion SET [DBVersion] = \"Version 1.12\"");
+    league.dialogs.expectError("Kestrelmoor");
+    EXPECT_FALSE(CorrectVersion(league.context));
+    EXPECT_TRUE(journal().contains("UpdateFunctions           CorrectVersion            The data file is at \"Version 1.12\"")) << journal().toStdString();
+}
+
+TEST_F(CorrectVersionTest, SafetyCopyThatFailsIsReportedAndTheStartGoesOn) {
+    ASSERT_TRUE(QDir(league.folder.path()).mkpath("Kestrelmoor.BKM/in the way"));
+    league.dialogs.expectError("Kestrelmoor");
+    EXPECT_TRUE(CorrectVersion(league.context));
+    EXPECT_TRUE(journal().contains("Backup")) << journal().toStdString();
+}
+
+}  // namespace
