@@ -51,6 +51,8 @@ QStringList Database::queryPlan(const QString& query) const {
     return steps;
 }
 
+qint64 Database::changes() const { return (qint64{connection_->epoch()} << 48) + connection_->changes(); }
+
 QStringList Database::tableNames() const { return connection_->tableNames(); }
 const TableDef* Database::table(const QString& name) const { return connection_->table(name); }
 

@@ -26,6 +26,9 @@ public:
     /// The steps in which the engine would answer the query, for tests ("SEARCH tblDivision USING INDEX ...").
     QStringList queryPlan(const QString& query) const;
 
+    /// Rows changed in the file so far by this process; another number says that something may look different now.
+    qint64 changes() const;
+
     QStringList tableNames() const;
     /// Null when there is none. Valid until the schema changes.
     const TableDef* table(const QString& name) const;

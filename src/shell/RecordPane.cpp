@@ -1,0 +1,262 @@
+#include "shell/RecordPane.h"
+
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "platform/text/Collation.h"
+#include "platform/widgets/Form.h"
+#include "platform/widgets/FormLayout.h"
+#include "platform/widgets/SearchCombo.h"
+#include "shell/Icons.h"
+#include "shell/Program.h"
+
+RecordPane::RecordPane(Program& program, PaneText text) : program_(program), text_(std::move(text)) {}
+
+void RecordPane::start(RecordClass& record, Form* form) {
+    record_ = &record;
+    form_ = form;
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
+    layout->setSpacing(spacing::group);
+    layout->addWidget(searchRow());
+    layout->addWidget(form_, 1);
+    connect(form_, &Form::changed, this, &RecordPane::beginEditing);
+    readList();
+    show(search_->entryCount() > 0 ? 0 : -1);
+}
+
+QWidget* RecordPane::searchRow() {
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins({});
+    layout->setSpacing(spacing::label);
+    auto* caption = new QLabel(text_.searchCaption, row);
+    search_ = new SearchCombo(QString(text_.searchCaption).remove(u'&'), row);
+    search_->setObjectName(text_.searchName);
+    search_->setShownCharacters(40);
+    caption->setBuddy(search_);
+    layout->addWidget(caption);
+    layout->addWidget(search_);
+    connect(search_, &SearchCombo::picked, this, &RecordPane::pick);
+    const struct {
+        int code;
+        const char* icon;
+        QString tip;
+    } buttons[] = {{MoveFirst, "move-first", tr("First record")},
+                   {MovePrevious, "move-previous", tr("Previous record")},
+                   {MoveNext, "move-next", tr("Next record")},
+                   {MoveLast, "move-last", tr("Last record")}};
+    for (const auto& each : buttons) {
+        auto* button = new QToolButton(row);
+        button->setObjectName(text_.moveName + QString::number(moves_.size()));
+        button->setIcon(shellIcon(QLatin1String(each.icon)));
+        button->setToolTip(each.tip);
+        button->setAccessibleName(each.tip);
+        button->setAutoRaise(true);
+        connect(button, &QToolButton::clicked, this, [this, code = each.code] { move(code); });
+        layout->addWidget(button);
+        moves_.push_back(button);
+    }
+    layout->addStretch(1);
+    return row;
+}
+
+void RecordPane::readList() {
+    const datafile::Database database = program_.store.workspace.openDatabase(program_.store.dataFilePath);
+    seenChanges_ = database.changes();
+    std::vector<QString> entries = database.readList(text_.listQuery, QStringLiteral("Name"));
+    placeAccented(entries);
+    search_->setEntries(std::move(entries));
+}
+
+bool RecordPane::canDelete() const { return !editing_ && search_->currentIndex() >= 0; }
+
+void RecordPane::beginEditing() {
+    if (!form_->isLoading()) setEditing(true);
+}
+
+void RecordPane::setEditing(bool editing) {
+    editing_ = editing;
+    search_->setEnabled(!editing);
+    for (QToolButton* button : moves_) button->setEnabled(!editing && search_->entryCount() > 0);
+    Q_EMIT stateChanged();
+}
+
+QString RecordPane::quotedName() const { return u'"' + name() + u'"'; }
+
+void RecordPane::focusSearch() {
+    if (search_->isEnabled()) search_->setFocus();
+}
+
+void RecordPane::move(int code) {
+    if (search_->entryCount() == 0) return;
+    const int last = search_->entryCount() - 1;
+    const int current = search_->currentIndex();
+    Q_EMIT said({});
+    if (code == MoveFirst || code == MoveLast) {
+        record_->move(code);
+        return show(code == MoveFirst ? 0 : last);
+    }
+    if (code == MovePrevious && current <= 0) Q_EMIT said(tr("First Record"));
+    else if (code == MoveNext && current >= last) Q_EMIT said(tr("Last Record"));
+    else show(current + (code == MoveNext ? 1 : -1));
+}
+
+void RecordPane::pick(int index) {
+    const QString wanted = search_->entryAt(index);
+    if (!offerToSave()) return search_->setCurrentIndex(search_->indexOf(shownEntry_));
+    Q_EMIT said({});
+    show(search_->indexOf(wanted));
+}
+
+void RecordPane::show(int index) {
+    const QString wanted = search_->entryAt(index);
+    if (index >= 0 && !find(wanted)) {
+        readList();
+        Q_EMIT said(tr("Record \"%1\" is no longer there.").arg(wanted));
+        index = search_->entryCount() > 0 ? 0 : -1;
+        if (index >= 0 && !find(search_->entryAt(index))) index = -1;
+    }
+    if (index < 0) return showBlank();
+    search_->setCurrentIndex(index);
+    shownEntry_ = search_->entryAt(index);
+    form_->refresh();
+    form_->setFieldsEnabled(true);
+    shown();
+    setEditing(false);
+}
+
+void RecordPane::showBlank() {
+    search_->setCurrentIndex(-1);
+    shownEntry_.clear();
+    record_->blank();
+    record_->setDirty(false);
+    record_->setNew(false);
+    form_->refresh();
+    form_->setFieldsEnabled(false);
+    shown();
+    setEditing(false);
+}
+
+void RecordPane::addNew() {
+    Q_EMIT said({});
+    search_->setCurrentIndex(-1);
+    makeNew();
+    form_->refresh();
+    form_->setFieldsEnabled(true);
+    shown();
+    setEditing(true);
+    form_->focusField(firstField());
+}
+
+bool RecordPane::write() {
+    record_->save();
+    return !record_->isChanged();
+}
+
+/// The save itself, its failure told in a box.
+bool RecordPane::writeGuarded(const QString& title) {
+    try {
+        return write();
+    } catch (const datafile::Error& error) {
+        program_.dialogs().error(title, error.text());
+    } catch (const RecordError& error) {
+        program_.dialogs().error(title, error.text());
+    }
+    return false;
+}
+
+bool RecordPane::save() {
+    if (!record_->isChanged()) {
+        setEditing(false);
+        return true;
+    }
+    std::vector<Finding> findings = check();
+    if (const QString unreadable = form_->unreadableField(); !unreadable.isEmpty())
+        findings.push_back({unreadable, tr("The date cannot be read.")});
+    if (!findings.empty()) {
+        QStringList lines;
+        for (const Finding& finding : findings) lines << finding.text;
+        program_.dialogs().warning(text_.checkTitle, lines.join(u'\n'));
+        form_->focusField(findings.front().field);
+        return false;
+    }
+    const QString before = record_->isNew() ? QString() : shownEntry_;
+    if (!writeGuarded(tr("The record was not saved"))) return false;
+    Q_EMIT said(tr("Record %1 Saved.").arg(quotedName()));
+    placeInList(before);
+    return true;
+}
+
+/// After a save the list takes one entry; it is not read anew.
+void RecordPane::placeInList(const QString& before) {
+    const QString saved = entry();
+    if (before != saved) {
+        if (const int old = before.isEmpty() ? -1 : search_->indexOf(before); old >= 0) search_->removeEntry(old);
+        if (search_->entryAt(search_->indexOf(saved)) != saved) search_->insertEntry(saved, listLess);
+    }
+    if (!find(saved)) program_.dialogs().warning(tr("Error!"), text_.missingText);
+    show(search_->indexOf(saved));
+    seenChanges_ = program_.store.workspace.openDatabase(program_.store.dataFilePath).changes();
+}
+
+void RecordPane::cancel() {
+    record_->undo();
+    Q_EMIT said({});
+    show(search_->indexOf(shownEntry_));
+    search_->setFocus();
+}
+
+void RecordPane::refresh() { cancel(); }
+
+QString RecordPane::deleteQuestion() const {
+    return tr("This will permanently delete the current record.\n\nDo you want to continue?");
+}
+
+void RecordPane::remove() {
+    const int index = search_->currentIndex();
+    if (index < 0 || !find(search_->entryAt(index)) || !mayDelete()) return;
+    const QString quoted = quotedName();
+    if (!program_.dialogs().ask(tr("Delete Confirmation"), deleteQuestion())) {
+        Q_EMIT said(tr("Record %1 NOT Deleted.").arg(quoted));
+        return;
+    }
+    erase();
+    search_->removeEntry(index);
+    show(search_->entryCount() == 0 ? -1 : index > 0 ? index - 1 : 0);
+    Q_EMIT said(tr("Record %1 Deleted.").arg(quoted));
+}
+
+bool RecordPane::offerToSave() {
+    if (!record_->isChanged()) return true;
+    if (program_.dialogs().ask(tr("Save Record?"), tr("Save the current record?"))) return save();
+    const QString quoted = quotedName();
+    record_->undo();
+    show(search_->indexOf(shownEntry_));
+    Q_EMIT said(tr("Record %1 NOT saved.").arg(quoted));
+    return true;
+}
+
+bool RecordPane::offerToSaveBeforeClosing() {
+    if (!record_->isChanged() || !program_.dialogs().ask(tr("Save Record?"), tr("Save the current record?"))) return true;
+    if (!check().empty()) return save();
+    try {
+        return write();
+    } catch (const std::exception& error) {
+        program_.dialogs().error(tr("Save Record?"), tr("The following error occurred while attempting to save:") + u'\n' +
+                                                         QString::fromUtf8(error.what()));
+    }
+    return program_.dialogs().ask(tr("Save Record?"), tr("If you continue the current operation, \n"
+                                                         "changes to your data will be lost.\n"
+                                                         "Do you want to continue anyway?"));
+}
+
+void RecordPane::catchUp() {
+    const datafile::Database database = program_.store.workspace.openDatabase(program_.store.dataFilePath);
+    if (editing_ || database.changes() == seenChanges_) return;
+    const QString current = shownEntry_;
+    readList();
+    const int index = search_->indexOf(current);
+    show(index >= 0 ? index : search_->entryCount() > 0 ? 0 : -1);
+}

@@ -1,0 +1,129 @@
+#include "shell/RecordScreen.h"
+
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "platform/widgets/FormLayout.h"
+#include "shell/RecordPane.h"
+
+namespace {
+
+void savePane(RecordPane& pane) { pane.save(); }
+
+}  // namespace
+
+RecordScreen::RecordScreen(Program& program, const QString& name, QSize designSize)
+    : MainScreen(program, name, designSize), tabs_(new QTabWidget(this)), buttons_(new QWidget(this)) {
+    auto* content = new QWidget(this);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
+    layout->addWidget(tabs_, 1);
+    layout->addWidget(buttons_);
+    auto* row = new QHBoxLayout(buttons_);
+    row->setContentsMargins({});
+    row->addStretch(1);
+    add_ = addButton(QStringLiteral("cmdAdd"), tr("Add &New"), &RecordPane::addNew);
+    save_ = addButton(QStringLiteral("cmdSave"), tr("&Save"), nullptr);
+    delete_ = addButton(QStringLiteral("cmdDelete"), tr("De&lete"), &RecordPane::remove);
+    cancel_ = addButton(QStringLiteral("cmdCancel"), tr("Can&cel"), &RecordPane::cancel);
+    refresh_ = addButton(QStringLiteral("cmdRefresh"), tr("&Refresh"), &RecordPane::refresh);
+    auto* close = addButton(QStringLiteral("cmdClose"), tr("Cl&ose"), nullptr);
+    connect(save_, &QPushButton::clicked, this, [this] {
+        if (pane()) savePane(*pane());
+    });
+    connect(close, &QPushButton::clicked, this, &QWidget::close);
+    setCentralWidget(content);
+    connect(tabs_, &QTabWidget::currentChanged, this, &RecordScreen::changeTab);
+}
+
+QPushButton* RecordScreen::addButton(const QString& name, const QString& caption, void (RecordPane::*what)()) {
+    auto* button = new QPushButton(caption, buttons_);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    if (what) connect(button, &QPushButton::clicked, this, [this, what] { press(what); });
+    buttons_->layout()->addWidget(button);
+    return button;
+}
+
+void RecordScreen::press(void (RecordPane::*what)()) {
+    if (RecordPane* current = pane()) (current->*what)();
+}
+
+void RecordScreen::addPane(RecordPane* added) {
+    addMenu(added);
+    connect(added, &RecordPane::stateChanged, this, &RecordScreen::showState);
+    connect(added, &RecordPane::said, this, &RecordScreen::UpdateStatusBar);
+    tabs_->addTab(added, added->text().caption);
+    showState();
+}
+
+/// The Data menu holds one submenu a pane; the same orders as the buttons.
+void RecordScreen::addMenu(RecordPane* added) {
+    const QString& tag = added->text().tag;
+    QMenu* menu = dataMenu()->addMenu(added->text().caption);
+    menu->menuAction()->setObjectName(QStringLiteral("mnuData") + tag);
+    const auto entry = [&](const char* what, const QString& caption, auto run) {
+        QAction* action = addEntry(menu, QStringLiteral("mnuData%1%2Record").arg(QLatin1String(what), tag), caption, run);
+        return action;
+    };
+    entries_.push_back({added, menu->menuAction(), entry("New", tr("Add &New"), [added] { added->addNew(); }),
+                        entry("Save", tr("&Save"), [added] { added->save(); }), entry("Delete", tr("De&lete"), [added] { added->remove(); }),
+                        entry("Cancel", tr("Can&cel"), [added] { added->cancel(); })});
+}
+
+RecordPane* RecordScreen::pane() const { return qobject_cast<RecordPane*>(tabs_->currentWidget()); }
+
+/// Leaving a tab with unsaved work offers to save it; staying puts the tab back.
+void RecordScreen::changeTab(int index) {
+    if (index == tab_) return;
+    auto* left = qobject_cast<RecordPane*>(tabs_->widget(tab_));
+    if (left && !left->offerToSave()) {
+        tabs_->setCurrentIndex(tab_);
+        return;
+    }
+    tab_ = index;
+    ResetStatusBar();
+    if (RecordPane* current = pane()) current->catchUp();
+    showState();
+}
+
+void RecordScreen::showState() {
+    RecordPane* current = pane();
+    const bool editing = current && current->isEditing();
+    const bool canAdd = current && !editing && current->canAdd();
+    const bool canDelete = current && current->canDelete();
+    add_->setEnabled(canAdd);
+    save_->setEnabled(editing);
+    delete_->setEnabled(canDelete);
+    cancel_->setEnabled(editing);
+    refresh_->setEnabled(current && !editing);
+    save_->setDefault(editing);
+    for (const Entry& entry : entries_) {
+        entry.menu->setEnabled(entry.pane == current);
+        entry.add->setEnabled(canAdd);
+        entry.save->setEnabled(editing);
+        entry.remove->setEnabled(canDelete);
+        entry.cancel->setEnabled(editing);
+    }
+}
+
+bool RecordScreen::offerToSave() {
+    for (const Entry& entry : entries_)
+        if (!entry.pane->offerToSaveBeforeClosing()) return false;
+    return true;
+}
+
+void RecordScreen::focusSearch() {
+    if (RecordPane* current = pane()) current->focusSearch();
+}
+
+void RecordScreen::cameForward() {
+    if (RecordPane* current = pane()) current->catchUp();
+}
+
+void RecordScreen::undo() {
+    if (RecordPane* current = pane(); current && current->isEditing()) current->cancel();
+}

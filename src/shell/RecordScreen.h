@@ -1,0 +1,54 @@
+#pragma once
+
+#include <vector>
+
+#include "shell/MainScreen.h"
+
+class QPushButton;
+class QTabWidget;
+class RecordPane;
+
+/// A main screen made of record panes, one a tab, with one set of buttons and a Data menu that serve the pane in view.
+class RecordScreen : public MainScreen {
+    Q_OBJECT
+
+public:
+    RecordScreen(Program& program, const QString& name, QSize designSize);
+    /// The pane becomes the screen's. The first one added is in view.
+    void addPane(RecordPane* pane);
+    /// Null when the tab in view holds no record pane.
+    RecordPane* pane() const;
+    bool offerToSave() override;
+    void focusSearch() override;
+
+protected:
+    void cameForward() override;
+    void undo() override;
+    QTabWidget& tabs() { return *tabs_; }
+
+private:
+    QPushButton* addButton(const QString& name, const QString& caption, void (RecordPane::*press)());
+    void addMenu(RecordPane* pane);
+    void changeTab(int index);
+    void showState();
+    void press(void (RecordPane::*what)());
+
+    struct Entry {
+        RecordPane* pane;
+        QAction* menu;
+        QAction* add;
+        QAction* save;
+        QAction* remove;
+        QAction* cancel;
+    };
+
+    QTabWidget* tabs_;
+    QWidget* buttons_;
+    QPushButton* add_ = nullptr;
+    QPushButton* save_ = nullptr;
+    QPushButton* delete_ = nullptr;
+    QPushButton* cancel_ = nullptr;
+    QPushButton* refresh_ = nullptr;
+    std::vector<Entry> entries_;
+    int tab_ = 0;
+};
