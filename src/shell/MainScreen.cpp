@@ -32,6 +32,7 @@ MainScreen::MainScreen(Program& program, const QString& name, QSize designSize, 
     status_ = new QLabel(this);
     status_->setObjectName("lblStatus");
     status_->setTextFormat(Qt::PlainText);
+    status_->setMargin(4);
     statusBar()->addWidget(status_, 1);
     WindowPlacement(program.settings, name).restore(*this, designSize, minimum);
 }

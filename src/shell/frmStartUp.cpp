@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "shell/Icons.h"
@@ -47,11 +48,15 @@ frmStartUp::frmStartUp(Program& program) : Screen(program, "frmStartUp") {
     path->setWordWrap(true);
     path->setForegroundRole(QPalette::PlaceholderText);
     column->addWidget(path);
-    setCentralWidget(panel);
+    auto* view = new QScrollArea;  // for a desktop smaller than the panel
+    view->setFrameShape(QFrame::NoFrame);
+    view->setWidgetResizable(true);
+    view->setWidget(panel);
+    setCentralWidget(view);
     findChild<QPushButton*>("cmdRegister")->setFocus();
 
-    adjustSize();
     const QRect desktop = QGuiApplication::primaryScreen()->availableGeometry();
+    resize(panel->sizeHint().boundedTo(desktop.size()));
     move(desktop.center() - rect().center());
 }
 

@@ -80,8 +80,15 @@ struct Shell : testing::Test {
     }
     /// Does it with the event loop running; true when the loop was left by it.
     static bool endsProgram(const std::function<void()>& action) {
-        QTimer::singleShot(0, qApp, action);
-        QTimer::singleShot(50, qApp, [] { QCoreApplication::exit(1); });
+        QTimer act;
+        QTimer giveUp;
+        QObject::connect(&act, &QTimer::timeout, [&] {
+            act.stop();
+            action();
+            giveUp.start(0);
+        });
+        QObject::connect(&giveUp, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+        act.start(0);
         return QCoreApplication::exec() == 0;
     }
     static void trigger(QWidget& screen, const QString& action) {
