@@ -13,7 +13,7 @@ namespace {
 constexpr int cachedKilobytes = 16 * 1024;
 constexpr int largestPixmapKilobytes = 6 * 1024;  // larger pages are drawn straight, as far as they are in view
 constexpr double wheelStep = 1.1;
-const QColor markColor(255, 214, 0, 110);
+const QColor markColor(255, 226, 90);
 
 }  // namespace
 
@@ -25,7 +25,7 @@ PageView::PageView(Paginator& pages, Use use, QWidget* parent)
       gap_(use == Use::Reading ? 14 : fontMetrics().height() + 12),
       pixmaps_(cachedKilobytes) {
     setFrameShape(QFrame::NoFrame);
-    viewport()->setBackgroundRole(use == Use::Reading ? QPalette::Dark : QPalette::Window);
+    viewport()->setBackgroundRole(use == Use::Reading ? QPalette::Mid : QPalette::Window);
     setFocusPolicy(use == Use::Reading ? Qt::StrongFocus : Qt::NoFocus);
     // A bar that comes and goes would change the width that the page is fitted to.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -157,12 +157,15 @@ void PageView::paintPage(QPainter& painter, int page, const QRect& area) {
         render(painter, page, QRectF(viewport()->rect().intersected(area).translated(-area.topLeft())));
         painter.restore();
     }
-    if (page == markedPage_)
+    if (page == markedPage_) {
+        painter.setCompositionMode(QPainter::CompositionMode_Multiply);  // the text stays black
         for (const QRectF& mark : marks_)
             painter.fillRect(QRectF(mark.topLeft() * scale(), mark.size() * scale()).translated(area.topLeft()),
                              markColor);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    }
     const bool selected = page == selected_;
-    painter.setPen(QPen(palette().color(selected ? QPalette::Highlight : QPalette::Mid), selected ? 3 : 1));
+    painter.setPen(QPen(palette().color(selected ? QPalette::Highlight : QPalette::Dark), selected ? 3 : 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(selected ? area.adjusted(-2, -2, 1, 1) : area.adjusted(0, 0, -1, -1));
     if (use_ != Use::Thumbnails) return;

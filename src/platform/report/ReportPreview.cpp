@@ -13,6 +13,7 @@
 #include <QShortcut>
 #include <QSpinBox>
 #include <QSplitter>
+#include <QStyle>
 #include <QToolButton>
 
 namespace report {
@@ -21,6 +22,12 @@ namespace {
 
 constexpr int idleSlice = 8;  // milliseconds
 constexpr int zoomSteps[] = {50, 75, 100, 125, 150, 200, 300, 400};
+
+QHBoxLayout* makeRow(const QStyle& style) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(style.pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
+    return row;
+}
 
 template <typename Button, typename Action>
 Button* addButton(QBoxLayout* row, const QString& name, const QString& text, const QString& help, Action action) {
@@ -108,7 +115,7 @@ QLayout* ReportPreview::makeBar() {
 }
 
 QLayout* ReportPreview::makePageButtons() {
-    auto* row = new QHBoxLayout;
+    auto* row = makeRow(*style());
     const auto turn = [&](const QString& name, const QString& sign, const QString& help, const QString& keys,
                           auto action) {
         auto* button = addButton<QToolButton>(row, name, sign, tr("%1 (%2)").arg(help, keys), action);
@@ -130,7 +137,7 @@ QLayout* ReportPreview::makePageButtons() {
     addLabel(row, tr("Pa&ge"), pageBox_);
     countLabel_ = new QLabel;
     countLabel_->setObjectName("pageCount");
-    countLabel_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("of %1").arg("0,000...")));
+    countLabel_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("of %1").arg("000...")));
     row->addWidget(countLabel_);
     forwardButtons_ << turn("cmdNext", QStringLiteral("›"), tr("Next page"), "Alt+Right",
                             [this] { goTo(view_->currentPage() + 1); });
@@ -139,7 +146,7 @@ QLayout* ReportPreview::makePageButtons() {
 }
 
 QLayout* ReportPreview::makeZoomBox() {
-    auto* row = new QHBoxLayout;
+    auto* row = makeRow(*style());
     zoomBox_ = new QComboBox;
     zoomBox_->setObjectName("zoom");
     zoomBox_->setEditable(true);
@@ -158,11 +165,12 @@ QLayout* ReportPreview::makeZoomBox() {
 }
 
 QLayout* ReportPreview::makeFindBox() {
-    auto* row = new QHBoxLayout;
+    auto* row = makeRow(*style());
     findBox_ = new QLineEdit;
     findBox_->setObjectName("findText");
     findBox_->setClearButtonEnabled(true);
-    findBox_->setMaximumWidth(260);
+    findBox_->setMinimumWidth(130);
+    findBox_->setMaximumWidth(220);
     connect(findBox_, &QLineEdit::returnPressed, this, [this] { find(false); });
     connect(findBox_, &QLineEdit::textChanged, this, [this](const QString& text) {
         findResult_->clear();
@@ -177,7 +185,8 @@ QLayout* ReportPreview::makeFindBox() {
     })->setShortcut(QKeySequence("F3"));
     findResult_ = new QLabel;
     findResult_->setObjectName("findResult");
-    row->addWidget(findResult_, 1);
+    row->addWidget(findResult_);
+    row->addStretch();
     return row;
 }
 
