@@ -1,0 +1,18 @@
+#include "app/ScreenRegister.h"
+
+#include "shell/EmptyScreen.h"
+#include "shell/Program.h"
+#include "shell/ScreenTable.h"
+#include "shell/Screens.h"
+#include "shell/frmAbout.h"
+#include "shell/frmStartUp.h"
+
+void registerScreens(Program& program) {
+    Screens& screens = program.screens;
+    for (const ScreenEntry& screen : screenTable) {
+        const QString name = screen.name;
+        screens.addScreen(name, [&program, name] { return std::make_unique<EmptyScreen>(program, name); });
+    }
+    screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
+    screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
+}
