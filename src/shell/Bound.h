@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/widgets/Binding.h"
+#include "store/Columns.h"
+
+// Lets a record's property stand as a form field's binding. The record outlives the form.
+
+inline Binding textBinding(Text& text) {
+    return {[&text] { return text(); }, [&text](const QString& value) { text = value; }, text.size()};
+}
+inline FlagBinding flagBinding(Flag& flag) {
+    return {[&flag] { return flag(); }, [&flag](bool value) { flag = value; }};
+}
+inline DateBinding dateBinding(Day& day) {
+    return {[&day] { return day(); }, [&day](QDate value) { day = value; }};
+}
