@@ -14,6 +14,7 @@
 #include "shell/frmAbout.h"
 #include "shell/frmSplash.h"
 #include "shell/frmStartUp.h"
+#include "store/CorrectVersion.h"
 
 namespace {
 
@@ -59,11 +60,7 @@ int main(int argumentCount, char** arguments) {
                     userFolder(QStandardPaths::AppDataLocation)};
     registerScreens(program);
 
-    StartRoutine start(program, {.correctVersion =
-                                     [&store] {
-                                         store.workspace.openDatabase(store.dataFilePath);
-                                         return true;
-                                     },
+    StartRoutine start(program, {.correctVersion = [&store] { return CorrectVersion(store); },
                                  .loadPreferences = [&store] { loadGlobals(store); },
                                  .loadNavigator = [&screens] { screens.load(navigator); },
                                  .showSplash = [&store] { showSplash(store); },
