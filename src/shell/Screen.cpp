@@ -15,6 +15,7 @@ QString Screen::caption() const { return tr("Kestrelmoor - %1").arg(program_.sto
 void Screen::unload() {
     offered_ = true;
     close();
+    offered_ = false;
 }
 
 void Screen::closeEvent(QCloseEvent* event) {
