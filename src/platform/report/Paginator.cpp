@@ -29,9 +29,9 @@ Page part(const Page& piece, Items from, Items to) {
     return result;
 }
 
+/// Headers stand at a lower level than what they head.
 bool mayPart(const Band& above, const Band& below) {
-    if (below.startsPage) return true;
-    return !above.isHeader() && !below.keepWithPrevious && below.level <= above.level;
+    return below.startsPage || (!below.keepWithPrevious && below.level <= above.level);
 }
 
 }  // namespace

@@ -15,19 +15,20 @@ namespace {
 
 constexpr double margin = 36;  // points
 
+/// False when the device takes no further page.
 template <typename Device>
-void paintPages(Device& device, QPainter& painter, Paginator& pages, int first, int last) {
+bool paintPages(Device& device, QPainter& painter, Paginator& pages, int first, int last) {
     PagePainter pagePainter(pages);
     const double scale = double(device.resolution()) / unitsPerInch;
     painter.scale(scale, scale);
     for (int index = first; index <= last; ++index) {
         const Page* page = pages.page(index);
         if (!page) break;
-        if (index > first && !device.newPage())
-            throw ReportError(QCoreApplication::translate("report", "The printer took no further page."));
+        if (index > first && !device.newPage()) return false;
         pagePainter.paint(painter, *page);
         pagePainter.paintFoot(painter, index);
     }
+    return true;
 }
 
 }  // namespace
@@ -51,9 +52,7 @@ void writePdf(const QString& path, Paginator& pages, const QString& title) {
     writer.setCreator(QCoreApplication::applicationName());
     writer.setPageLayout(QPageLayout(pages.paper().pageSize(), pages.paper().orientation(), QMarginsF()));
     QPainter painter;
-    if (!painter.begin(&writer))
-        throw ReportError(QCoreApplication::translate("report", "The PDF file could not be started."));
-    paintPages(writer, painter, pages, 0, pages.pageCount() - 1);
+    if (!painter.begin(&writer) || !paintPages(writer, painter, pages, 0, pages.pageCount() - 1)) file.giveUp();
     painter.end();
     file.commit();
 }
@@ -65,11 +64,12 @@ void print(QPrinter& printer, const Report& report) {
     printer.setPageOrientation(pages->paper().orientation());
     const bool range = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0;
     QPainter painter;
-    if (!painter.begin(&printer))
-        throw ReportError(QCoreApplication::translate("report", "The printer could not be started."));
-    paintPages(printer, painter, *pages, range ? printer.fromPage() - 1 : 0,
-               range ? printer.toPage() - 1 : pages->pageCount() - 1);
-    painter.end();
+    const bool painted = painter.begin(&printer) &&
+                         paintPages(printer, painter, *pages, range ? printer.fromPage() - 1 : 0,
+                                    range ? printer.toPage() - 1 : pages->pageCount() - 1) &&
+                         painter.end();
+    if (!painted || printer.printerState() == QPrinter::Error)
+        throw ReportError(QCoreApplication::translate("report", "The printer did not take the report."));
 }
 
 }  // namespace report

@@ -70,6 +70,8 @@ ReportPreview::ReportPreview(Report report, QPrinter& printer, Dialogs& dialogs,
     new QShortcut(QKeySequence::ZoomIn, this, [this] { view_->setZoom(view_->zoom() * 1.25); });
     new QShortcut(QKeySequence::ZoomOut, this, [this] { view_->setZoom(view_->zoom() / 1.25); });
     new QShortcut(QKeySequence::Find, this, [this] { findBox_->setFocus(Qt::ShortcutFocusReason); });
+    new QShortcut(QKeySequence("F3"), this, [this] { find(false); });
+    new QShortcut(QKeySequence("Shift+F3"), this, [this] { find(true); });
     new QShortcut(QKeySequence::Print, this, [this] { printPages(); });
     connect(view_, &PageView::currentPageChanged, this, &ReportPreview::showCurrent);
     connect(view_, &PageView::zoomChanged, this, &ReportPreview::showZoom);
@@ -118,9 +120,8 @@ QLayout* ReportPreview::makePageButtons() {
     auto* row = makeRow(*style());
     const auto turn = [&](const QString& name, const QString& sign, const QString& help, const QString& keys,
                           auto action) {
-        auto* button = addButton<QToolButton>(row, name, sign, tr("%1 (%2)").arg(help, keys), action);
-        button->setShortcut(QKeySequence(keys));
-        return button;
+        new QShortcut(QKeySequence(keys), this, action);  // at once, where a button's own would first show it pressed
+        return addButton<QToolButton>(row, name, sign, tr("%1 (%2)").arg(help, keys), action);
     };
     backButtons_ << turn("cmdFirst", QStringLiteral("«"), tr("First page"), "Ctrl+Home", [this] { goTo(0); });
     backButtons_ << turn("cmdPrevious", QStringLiteral("‹"), tr("Previous page"), "Alt+Left",
@@ -178,11 +179,9 @@ QLayout* ReportPreview::makeFindBox() {
     });
     addLabel(row, tr("&Find"), findBox_);
     addButton<QToolButton>(row, "cmdFindPrevious", QStringLiteral("‹"), tr("Find the text before this (Shift+F3)"),
-                           [this] { find(true); })
-        ->setShortcut(QKeySequence("Shift+F3"));
-    addButton<QToolButton>(row, "cmdFindNext", QStringLiteral("›"), tr("Find the next such text (F3)"), [this] {
-        find(false);
-    })->setShortcut(QKeySequence("F3"));
+                           [this] { find(true); });
+    addButton<QToolButton>(row, "cmdFindNext", QStringLiteral("›"), tr("Find the next such text (F3)"),
+                           [this] { find(false); });
     findResult_ = new QLabel;
     findResult_->setObjectName("findResult");
     row->addWidget(findResult_);

@@ -41,7 +41,7 @@ qint64 WholeFile::writeData(const char* data, qint64 length) {
 void WholeFile::commit() {
     const qint64 length = pos();
     if (failed_ || !flush() || error() != NoError || fsync(handle()) != 0 || QFileInfo(fileName()).size() != length)
-        fail(error() != NoError ? errorString() : qt_error_string());
+        giveUp();
     const QFileInfo old(target_);
     setPermissions(old.exists() ? old.permissions() : usualPermissions);
     const QByteArray from = QFile::encodeName(fileName());
@@ -49,6 +49,8 @@ void WholeFile::commit() {
     setAutoRemove(false);
     close();
 }
+
+void WholeFile::giveUp() const { fail(error() != NoError ? errorString() : qt_error_string()); }
 
 void WholeFile::fail(const QString& reason) const {
     throw ReportError(

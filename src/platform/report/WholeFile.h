@@ -12,6 +12,8 @@ public:
     explicit WholeFile(const QString& target);
     /// Raises ReportError when anything was not written, or cannot be put in place; then the target is untouched.
     void commit();
+    /// Raises what made writing fail.
+    [[noreturn]] void giveUp() const;
 
 protected:
     qint64 writeData(const char* data, qint64 length) override;

@@ -111,12 +111,16 @@ TEST_F(Pdf, LeavesTheOldFileWhenWritingFails) {
     const QByteArray before = contentOf(path_);
     QStringList many;
     for (int row = 0; row < 3000; ++row) many << QString("Player %1").arg(row);
-    {
-        const FullDisk full(60000);
-        EXPECT_THROW(write(path_, names(many)), ReportError);
+    const ListRows::Tables fits = names({"Before"});
+    const ListRows::Tables large = names(many);
+    const auto size = rlim_t(before.size());
+    const std::tuple<const ListRows::Tables&, rlim_t> cases[] = {{large, 60000}, {fits, size - 50}, {fits, 0}};
+    for (const auto& [tables, space] : cases) {
+        const FullDisk full(space);
+        EXPECT_THROW(write(path_, tables), ReportError) << space;
+        EXPECT_EQ(contentOf(path_), before);
+        EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "no temporary file is left";
     }
-    EXPECT_EQ(contentOf(path_), before);
-    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "no temporary file is left";
     write(path_, names({"After"}));
     EXPECT_TRUE(textOf(path_).contains("After"));
 }
