@@ -21,6 +21,9 @@ struct Cell {
     TextStyle style{};
 };
 
+/// What sets a row of several lines apart from the row above it.
+enum class Separation { None, Space, Rule };
+
 /// One filled line of a report.
 struct Band {
     BandKind kind = BandKind::Detail;
@@ -30,6 +33,7 @@ struct Band {
     int indent = 0;  ///< how many reports this one is nested in
     bool keepWithPrevious = false;
     bool startsPage = false;
+    Separation above = Separation::None;
     std::vector<Cell> cells{};
 
     /// Headers are repeated when their rows run over to the next page.

@@ -23,7 +23,9 @@ Spacing spacingOf(const Band& band) {
         case BandKind::Title: return {0, 0, band.keepWithPrevious ? 8.0 : 1.0};
         case BandKind::GroupHeader: return {7, 2.5, 2.5};
         case BandKind::ColumnHeads: return {3, 2, 2.5};
-        case BandKind::Detail: return {0, 2, 2};
+        case BandKind::Detail:
+            if (band.above == Separation::None) return {0, 2, 2};
+            return {6, band.above == Separation::Rule ? 4.0 : 2.0, 2};
         case BandKind::GroupFooter: return {1.5, 2.5, 2};
         case BandKind::Totals: return {5, 3, 2};
     }
@@ -74,15 +76,44 @@ double startOf(const TextLine& line, double left, double width, Alignment alignm
     return left;
 }
 
+struct MeasuredCell {
+    quint8 font = 0;
+    double left = 0;
+    double width = 0;
+    double ascent = 0;  ///< of the first line
+    std::vector<TextLine> lines{};
+};
+
+/// The cells of a band between `left` and `left + width`, each with the lines that its text takes.
+std::vector<MeasuredCell> measure(const Band& band, double left, double width, FontBook& fonts, double fontScale) {
+    double shares = 0;
+    for (const Cell& cell : band.cells) shares += cell.share;
+    std::vector<MeasuredCell> result(band.cells.size());
+    for (size_t index = 0; index < result.size(); ++index) {
+        const Cell& cell = band.cells[index];
+        MeasuredCell& measured = result[index];
+        TextStyle style = cell.style;
+        style.points *= fontScale;
+        measured.font = fonts.idOf(style);
+        const Face& face = fonts.face(measured.font);
+        const double cellWidth = width * cell.share / shares;
+        measured.left = left;
+        measured.width = index + 1 == result.size() ? cellWidth : cellWidth - cellGap;
+        if (!cell.text.isEmpty()) wrap(cell.text, face, measured.width, measured.lines);
+        measured.ascent = measured.lines.empty() ? face.ascent() : measured.lines.front().ascent;
+        left += cellWidth;
+    }
+    return result;
+}
+
 /// Places the lines of a cell from `top` down and returns where they end.
-double place(const Cell& cell, const std::vector<TextLine>& lines, quint8 font, double left, double width, double top,
-             Page& piece) {
-    for (const TextLine& line : lines) {
-        piece.items.push_back({.x = float(startOf(line, left, width, cell.alignment)),
+double place(const Cell& cell, const MeasuredCell& measured, double top, Page& piece) {
+    for (const TextLine& line : measured.lines) {
+        piece.items.push_back({.x = float(startOf(line, measured.left, measured.width, cell.alignment)),
                                .baseline = float(top + line.ascent),
                                .start = quint32(piece.text.size()),
                                .length = quint16(line.length),
-                               .font = font,
+                               .font = measured.font,
                                .plain = line.plain});
         piece.text += QStringView(cell.text).mid(line.start, line.length);
         piece.text += u' ';
@@ -97,7 +128,7 @@ void addRules(const Band& band, const Spacing& spacing, double left, double widt
         laid.piece.rules.push_back({QRectF(left, before, width, laid.height - before), Ink::Light});
     if (band.kind == BandKind::ColumnHeads)
         laid.piece.rules.push_back({QRectF(left, laid.height - ruleThickness, width, ruleThickness), Ink::Dark});
-    if (band.kind == BandKind::GroupFooter || band.kind == BandKind::Totals) {
+    if (band.above == Separation::Rule || band.kind == BandKind::GroupFooter || band.kind == BandKind::Totals) {
         const double thickness = band.kind == BandKind::Totals ? 2 * ruleThickness : ruleThickness;
         laid.piece.rules.push_back({QRectF(left, before, width, thickness), Ink::Dark});
     }
@@ -107,39 +138,21 @@ void addRules(const Band& band, const Spacing& spacing, double left, double widt
 
 LaidBand layOut(const Band& band, double left, double width, FontBook& fonts, double fontScale) {
     const Spacing spacing = spacingOf(band);
-    const double top = (spacing.before + spacing.above) * unitsPerPoint;
     left += band.indent * indentStep;
     width -= band.indent * indentStep;
     const bool shaded = band.kind == BandKind::GroupHeader && band.level == 0;
     const double inset = shaded ? cellGap / 2 : 0;
+    const auto cells = measure(band, left + inset, width - 2 * inset, fonts, fontScale);
 
-    std::vector<quint8> faces;
-    double shares = 0;
-    double ascent = 0;  // all first lines of a band stand on one base line
-    for (const Cell& cell : band.cells) {
-        shares += cell.share;
-        TextStyle style = cell.style;
-        style.points *= fontScale;
-        faces.push_back(fonts.idOf(style));
-        ascent = std::max(ascent, fonts.face(faces.back()).ascent());
-    }
     LaidBand laid{.level = band.level, .header = band.isHeader()};
+    const double top = (spacing.before + spacing.above) * unitsPerPoint;
+    double ascent = 0;  // all first lines stand on one base line
+    for (const MeasuredCell& cell : cells) ascent = std::max(ascent, cell.ascent);
     double bottom = top;
-    double x = left + inset;
-    std::vector<TextLine> lines;
-    for (size_t index = 0; index < band.cells.size(); ++index) {
-        const Cell& cell = band.cells[index];
-        const double cellWidth = (width - 2 * inset) * cell.share / shares;
-        const double textWidth = index + 1 == band.cells.size() ? cellWidth : cellWidth - cellGap;
-        const Face& face = fonts.face(faces[index]);
-        const double cellTop = top + ascent - face.ascent();
-        bottom = std::max(bottom, cellTop + face.lineHeight());
-        if (!cell.text.isEmpty()) {
-            lines.clear();
-            wrap(cell.text, face, textWidth, lines);
-            bottom = std::max(bottom, place(cell, lines, faces[index], x, textWidth, cellTop, laid.piece));
-        }
-        x += cellWidth;
+    for (size_t index = 0; index < cells.size(); ++index) {
+        const double cellTop = top + ascent - cells[index].ascent;
+        bottom = std::max({bottom, cellTop + fonts.face(cells[index].font).lineHeight(),
+                           place(band.cells[index], cells[index], cellTop, laid.piece)});
     }
     laid.height = bottom + spacing.below * unitsPerPoint;
     addRules(band, spacing, left, width, laid);

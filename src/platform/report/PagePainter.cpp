@@ -45,6 +45,7 @@ void PagePainter::paint(QPainter& painter, const Page& page, double top, double 
 }
 
 void PagePainter::paintFoot(QPainter& painter, int index) {
+    if (!pages_.hasFoot()) return;
     const QRectF area = pages_.paper().paintRect(QPageLayout::Point);
     const Face& face = pages_.fonts().face(pages_.footerFont());
     const double baseline = area.bottom() * unitsPerPoint - face.descent();

@@ -29,6 +29,8 @@ public:
     bool isComplete() const { return complete_; }
 
     const QPageLayout& paper() const { return paper_; }
+    /// A sheet of labels has no foot.
+    bool hasFoot() const { return !labels_; }
     const QString& footer() const { return footer_; }
     const FontBook& fonts() const { return fonts_; }
     quint8 footerFont() const { return footerFont_; }

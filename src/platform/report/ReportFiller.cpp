@@ -183,11 +183,18 @@ void ReportFiller::addColumnHeads() {
             {.text = column.caption, .alignment = alignmentOf(column), .share = column.share, .style = style(true)});
 }
 
+Separation ReportFiller::separation() const {
+    if (definition_->labels) return Separation::None;
+    if (columns_.empty()) return lines_.size() > 1 ? Separation::Rule : Separation::None;
+    return definition_->subReports.empty() ? Separation::None : Separation::Space;
+}
+
 void ReportFiller::addDetail() {
     bool first = true;
     const auto addLine = [&](const BoundLine& line) {
         Band& band = add(BandKind::Detail, detailLevel_);
         band.keepWithPrevious = !first;
+        if (first) band.above = separation();
         addCells(band, line, false);
         first = false;
     };

@@ -46,6 +46,7 @@ private:
     void close();
     size_t firstChangedGroup();
     bool startsPage(size_t fromGroup) const;
+    Separation separation() const;
     void addTitle();
     void addGroupHeaders(size_t fromGroup);
     void addColumnHeads();

@@ -106,6 +106,19 @@ TEST_F(Pdf, WritesNamesOfAllAlphabets) {
     for (const QString& name : all) EXPECT_TRUE(text.contains(name)) << name.toStdString();
 }
 
+TEST_F(Pdf, PrintsNothingButLabelsOnASheetOfLabels) {
+    ReportDefinition definition;
+    definition.query.text = "names";
+    definition.typeface = Typeface::Label;
+    definition.lines = {{{.field = column("Name")}}, {{.field = column("Paid")}}};
+    definition.footer = "rptLabelFormat1";
+    definition.labels = LabelSheet{.skip = 1};
+    const auto tables = names({"Ann", "Bob", "Cid"});
+    const Report report{definition, ListRows::over(tables)};
+    writePdf(path_, *paginate(report, paperFor(definition)), "");
+    EXPECT_EQ(textOf(path_).simplified(), "Ann Bob 12.5 12.5 Cid 12.5");
+}
+
 TEST_F(Pdf, LeavesTheOldFileWhenWritingFails) {
     write(path_, names({"Before"}));
     const QByteArray before = contentOf(path_);
