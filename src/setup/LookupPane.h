@@ -2,6 +2,7 @@
 
 #include "platform/widgets/FormBuilder.h"
 #include "shell/Bound.h"
+#include "shell/Program.h"
 #include "shell/RecordPane.h"
 
 /// The tab of one lookup table, declared: which record class, which list, which boxes.

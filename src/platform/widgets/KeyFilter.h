@@ -4,8 +4,14 @@
 #include <QString>
 #include <functional>
 
-/// Says which characters a box accepts. An empty filter accepts all that can be printed.
-using KeyFilter = std::function<bool(QChar)>;
+#include "platform/text/KeyFilters.h"
+
+/// Says which characters a box accepts: one of the program's key sets, or any rule. An empty filter accepts all that
+/// can be printed.
+struct KeyFilter : std::function<bool(QChar)> {
+    using function::function;
+    KeyFilter(KeySet keys) : function([keys](QChar character) { return admits(keys, character); }) {}
+};
 
 enum class LineBreaks { Keep, AsBlanks };
 

@@ -1,0 +1,306 @@
+#include "platform/widgets/FormBuilder.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QScrollArea>
+#include <QTabWidget>
+
+#include "platform/text/KeyFilters.h"
+#include "platform/text/Money.h"
+#include "platform/widgets/CommentBox.h"
+#include "platform/widgets/DateBox.h"
+#include "platform/widgets/FilteredEdit.h"
+#include "platform/widgets/FormLayout.h"
+#include "platform/widgets/MaskedEdit.h"
+#include "platform/widgets/YesNoPair.h"
+
+namespace {
+
+constexpr int mostShownCharacters = 30;
+constexpr int narrowField = 16;  ///< up to here a box keeps its own width
+
+QString withoutMarks(const QString& caption) {
+    QString plain = caption;
+    plain.remove(u'&').remove(u'*');
+    return plain.simplified();
+}
+
+void keepWidth(QWidget* widget, int characters) {
+    const bool narrow = characters > 0 && characters <= narrowField;
+    widget->setSizePolicy(narrow ? QSizePolicy::Maximum : QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+}  // namespace
+
+FormBuilder::FormBuilder(Form* form) : form_(form) {}
+
+/// What the form or one of its tabs shows: columns, in an area that scrolls when the window is too small.
+void FormBuilder::page(QWidget* content) {
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing::group);
+    columns_ = new ColumnRow(content);
+    layout->addWidget(columns_);
+    layout->addStretch(1);
+    column_ = nullptr;
+    form_->addPage(columns_);
+}
+
+FormBuilder& FormBuilder::tab(const QString& title) {
+    if (!tabs_) {
+        tabs_ = new QTabWidget(form_);
+        auto* layout = new QVBoxLayout(form_);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(tabs_);
+    }
+    auto* area = new QScrollArea(tabs_);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    auto* content = new QWidget(area);
+    page(content);
+    content->layout()->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
+    area->setWidget(content);
+    tabs_->addTab(area, title);
+    return *this;
+}
+
+FormBuilder& FormBuilder::column(int weight) {
+    if (!columns_) {
+        auto* layout = new QVBoxLayout(form_);
+        layout->setContentsMargins(0, 0, 0, 0);
+        auto* area = new QScrollArea(form_);
+        area->setWidgetResizable(true);
+        area->setFrameShape(QFrame::NoFrame);
+        auto* content = new QWidget(area);
+        page(content);
+        area->setWidget(content);
+        layout->addWidget(area);
+    }
+    auto* widget = new QWidget(columns_);
+    auto* inside = new QVBoxLayout(widget);
+    inside->setContentsMargins(0, 0, 0, 0);
+    inside->setSpacing(spacing::group);
+    columns_->addColumn(widget, weight);
+    column_ = inside;
+    return *this;
+}
+
+FormBuilder& FormBuilder::frame(const QString& title, int pairs) {
+    if (!column_) column();
+    QWidget* box = title.isEmpty() ? new QWidget : new QGroupBox(title);
+    grid_ = new QGridLayout(box);
+    grid_->setHorizontalSpacing(spacing::label);
+    grid_->setVerticalSpacing(spacing::line);
+    for (int pair = 0; pair < pairs; ++pair) grid_->setColumnStretch(2 * pair + 1, 1);
+    pairs_ = pairs;
+    line_ = pair_ = 0;
+    wide_ = false;
+    column_->addWidget(box);
+    return *this;
+}
+
+FormBuilder& FormBuilder::row() {
+    if (pair_ > 0) ++line_, pair_ = 0;
+    return *this;
+}
+
+FormBuilder& FormBuilder::wide() {
+    wide_ = true;
+    return *this;
+}
+
+/// Puts a caption and a widget into the next pair of the grid.
+QLabel* FormBuilder::place(QWidget* widget, const QString& caption, QWidget* buddy) {
+    if (pair_ >= pairs_) row();
+    QLabel* label = nullptr;
+    if (!caption.isEmpty()) {
+        label = new QLabel(caption);
+        label->setBuddy(buddy);
+        label->setAlignment(Qt::AlignLeft | (qobject_cast<CommentBox*>(widget) ? Qt::AlignTop : Qt::AlignVCenter));
+        label->setContentsMargins(pair_ > 0 ? spacing::group - spacing::label : 0, qobject_cast<CommentBox*>(widget) ? 4 : 0, 0, 0);
+        grid_->addWidget(label, line_, 2 * pair_);
+    }
+    const int span = wide_ ? 2 * (pairs_ - pair_) - 1 : 1;
+    const bool own = widget->sizePolicy().horizontalPolicy() == QSizePolicy::Maximum;
+    grid_->addWidget(widget, line_, 2 * pair_ + 1, 1, span, own ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment());
+    pair_ = wide_ ? pairs_ : pair_ + 1;
+    wide_ = false;
+    if (last_) QWidget::setTabOrder(last_, buddy ? buddy : widget);
+    last_ = buddy ? buddy : widget;
+    return label;
+}
+
+QWidget* FormBuilder::named(QWidget* editor, const QString& name, const QString& caption) {
+    editor->setObjectName(name);
+    editor->setAccessibleName(withoutMarks(caption));
+    return editor;
+}
+
+template <class Show>
+void FormBuilder::add(const QString& name, QWidget* editor, QLabel* caption, const Binding& value, Show show) {
+    form_->addField({.name = name,
+                     .editor = editor,
+                     .caption = caption,
+                     .read = [read = value.read] { return QVariant(read()); },
+                     .write = [write = value.write](const QVariant& now) { write(now.toString()); },
+                     .display = [show](const QVariant& now) { show(now.toString()); }});
+}
+
+template <class Edit>
+void FormBuilder::addTextBox(const QString& name, Edit* editor, QLabel* caption, const Binding& value) {
+    add(name, editor, caption, value, [editor](const QString& text) { editor->setText(text); });
+    QObject::connect(editor, &QLineEdit::textChanged, form_, [form = form_, name](const QString& text) { form->edit(name, text); });
+}
+
+FormBuilder& FormBuilder::text(const QString& name, const QString& caption, Binding value, KeyFilter filter) {
+    auto* editor = new FilteredEdit;
+    editor->setKeyFilter(std::move(filter));
+    editor->setMaxLength(value.maxLength);
+    editor->setShownCharacters(qBound(2, value.maxLength, mostShownCharacters));
+    keepWidth(editor, value.maxLength);
+    named(editor, name, caption);
+    addTextBox(name, editor, place(editor, caption, editor), value);
+    return *this;
+}
+
+FormBuilder& FormBuilder::masked(const QString& name, const QString& caption, const QString& mask, Binding value) {
+    auto* editor = new MaskedEdit(mask);
+    editor->setShownCharacters(static_cast<int>(mask.size()) + 1);
+    keepWidth(editor, static_cast<int>(mask.size()));
+    named(editor, name, caption);
+    addTextBox(name, editor, place(editor, caption, editor), value);
+    return *this;
+}
+
+FormBuilder& FormBuilder::phone(const QString& areaName, const QString& name, const QString& caption, Binding area, Binding number) {
+    auto* both = new QWidget;
+    auto* layout = new QHBoxLayout(both);
+    layout->setContentsMargins({});
+    layout->setSpacing(spacing::label / 2);
+    both->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    auto* areaBox = new MaskedEdit(QStringLiteral("###"));
+    auto* numberBox = new MaskedEdit(QStringLiteral("###-####"));
+    areaBox->setShownCharacters(4);
+    numberBox->setShownCharacters(9);
+    for (MaskedEdit* box : {areaBox, numberBox}) {
+        box->setMovesOnWhenFull(true);
+        keepWidth(box, 8);
+        layout->addWidget(box);
+    }
+    named(areaBox, areaName, caption + QStringLiteral(" (area)"));
+    named(numberBox, name, caption);
+    QLabel* label = place(both, caption, areaBox);
+    QWidget::setTabOrder(areaBox, numberBox);
+    last_ = numberBox;
+    addTextBox(areaName, areaBox, label, area);
+    addTextBox(name, numberBox, nullptr, number);
+    return *this;
+}
+
+FormBuilder& FormBuilder::money(const QString& name, const QString& caption, Binding value) {
+    auto* editor = new FilteredEdit;
+    editor->setKeyFilter(FilterMoney);
+    editor->setMaxLength(value.maxLength);
+    editor->setShownCharacters(10);
+    editor->setAlignment(Qt::AlignRight);
+    keepWidth(editor, 10);
+    named(editor, name, caption);
+    add(name, editor, place(editor, caption, editor), value, [editor](const QString& text) {
+        const auto amount = Money::parse(text);
+        editor->setText(amount ? amount->text() : text);
+    });
+    QObject::connect(editor, &QLineEdit::textChanged, form_, [form = form_, name](const QString& text) { form->edit(name, text); });
+    return *this;
+}
+
+FormBuilder& FormBuilder::choice(const QString& name, const QString& caption, Binding value, const QStringList& entries,
+                                 ChoiceBox::Options options, KeyFilter filter) {
+    auto* editor = new ChoiceBox(options);
+    editor->setEntries(entries);
+    editor->setLimits(std::move(filter), value.maxLength);
+    int longest = 4;
+    for (const QString& entry : entries) longest = qMax(longest, static_cast<int>(entry.size()));
+    editor->setShownCharacters(qMin(qMax(longest, qMin(value.maxLength, 12)), mostShownCharacters));
+    keepWidth(editor, longest);
+    named(editor, name, caption);
+    add(name, editor, place(editor, caption, editor), value, [editor](const QString& text) { editor->setText(text); });
+    QObject::connect(editor, &ChoiceBox::edited, form_, [form = form_, name](const QString& text) { form->edit(name, text); });
+    return *this;
+}
+
+FormBuilder& FormBuilder::date(const QString& name, const QString& caption, DateBinding value) {
+    auto* editor = new DateBox;
+    editor->setShownCharacters(14);
+    keepWidth(editor, 14);
+    named(editor, name, caption);
+    QLabel* label = place(editor, caption, editor);
+    form_->addField({.name = name,
+                     .editor = editor,
+                     .caption = label,
+                     .read = [read = value.read] { return QVariant(read()); },
+                     .write = [write = value.write](const QVariant& now) { write(now.toDate()); },
+                     .display = [editor](const QVariant& now) { editor->setDate(now.toDate()); },
+                     .isReadable = [editor] { return editor->isReadable(); }});
+    QObject::connect(editor, &DateBox::edited, form_, [form = form_, name](const QDate& now) { form->edit(name, now); });
+    return *this;
+}
+
+FormBuilder& FormBuilder::check(const QString& name, const QString& caption, FlagBinding value) {
+    auto* editor = new QCheckBox(caption);
+    named(editor, name, caption);
+    place(editor, {}, editor);
+    form_->addField({.name = name,
+                     .editor = editor,
+                     .read = [read = value.read] { return QVariant(read()); },
+                     .write = [write = value.write](const QVariant& now) { write(now.toBool()); },
+                     .display = [editor](const QVariant& now) { editor->setChecked(now.toBool()); }});
+    QObject::connect(editor, &QCheckBox::toggled, form_, [form = form_, name](bool now) { form->edit(name, now); });
+    return *this;
+}
+
+FormBuilder& FormBuilder::yesNo(const QString& name, const QString& caption, FlagBinding isYes) {
+    auto* editor = new YesNoPair(name, withoutMarks(caption));
+    named(editor, name, caption);
+    QLabel* label = place(editor, caption, editor);
+    form_->addField({.name = name,
+                     .editor = editor,
+                     .caption = label,
+                     .read = [read = isYes.read] { return QVariant(read()); },
+                     .write = [write = isYes.write](const QVariant& now) { write(now.toBool()); },
+                     .display = [editor](const QVariant& now) { editor->setYes(now.toBool()); }});
+    QObject::connect(editor, &YesNoPair::edited, form_, [form = form_, name](bool now) { form->edit(name, now); });
+    return *this;
+}
+
+FormBuilder& FormBuilder::comments(const QString& name, const QString& caption, Binding value, KeyFilter filter) {
+    auto* editor = new CommentBox;
+    editor->setLimits(std::move(filter), value.maxLength);
+    editor->setTabChangesFocus(true);
+    named(editor, name, caption);
+    wide_ = true;
+    add(name, editor, place(editor, caption, editor), value, [editor](const QString& text) { editor->setText(text); });
+    QObject::connect(editor, &CommentBox::edited, form_, [form = form_, name](const QString& text) { form->edit(name, text); });
+    return *this;
+}
+
+FormBuilder& FormBuilder::shown(const QString& name, const QString& caption, std::function<QString()> read, int characters) {
+    auto* value = new QLabel;
+    value->setTextFormat(Qt::PlainText);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    value->setMinimumWidth(value->fontMetrics().averageCharWidth() * qMin(characters, narrowField));
+    named(value, name, caption);
+    QLabel* label = place(value, caption, nullptr);
+    form_->addField({.name = name,
+                     .editor = value,
+                     .caption = label,
+                     .read = [read = std::move(read)] { return QVariant(read()); },
+                     .display = [value](const QVariant& now) { value->setText(now.toString()); }});
+    return *this;
+}
+
+FormBuilder& FormBuilder::custom(QWidget* widget) {
+    place(widget, {}, widget);
+    return *this;
+}

@@ -1,0 +1,168 @@
+#include "platform/widgets/SearchCombo.h"
+#include "setup/clsSchoolName.h"
+#include "support/Printing.h"
+#include "support/RunningProgram.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <gtest/gtest.h>
+
+namespace {
+
+class SetupTest : public testing::Test {
+protected:
+    void SetUp() override { screen = running.open("frmSetup"); }
+    QStringList list(const char* name) {
+        auto* combo = control<SearchCombo>(screen, name);
+        QStringList entries;
+        for (int i = 0; i < combo->entryCount(); ++i) entries << combo->entryAt(i);
+        return entries;
+    }
+    bool enabled(const char* name) { return control(screen, name)->isEnabled(); }
+    void addSchool(const QString& name) {
+        press(screen, "cmdAdd");
+        type(screen, "txtSchoolName", name);
+        press(screen, "cmdSave");
+    }
+    void showSchools() { screen->findChild<QTabWidget*>()->setCurrentIndex(1); }
+
+    RunningProgram running;
+    Screen* screen = nullptr;
+};
+
+TEST_F(SetupTest, EveryButtonKnowsWhenItMayBePressed) {
+    EXPECT_TRUE(enabled("cmdAdd") && enabled("cmdDelete") && enabled("cboCertSearchList"));
+    EXPECT_FALSE(enabled("cmdSave") || enabled("cmdCancel"));
+    type(screen, "txtCertOrg", "Club");
+    EXPECT_TRUE(enabled("cmdSave") && enabled("cmdCancel"));
+    EXPECT_FALSE(enabled("cmdAdd") || enabled("cmdDelete") || enabled("cboCertSearchList") || enabled("cmdCertMove0"));
+    press(screen, "cmdCancel");
+    EXPECT_NE(control<QLineEdit>(screen, "txtCertOrg")->text(), "Club");
+    EXPECT_TRUE(enabled("cmdAdd"));
+    showSchools();
+    EXPECT_FALSE(enabled("cmdDelete")) << "there is no school yet";
+    EXPECT_FALSE(enabled("txtSchoolName"));
+}
+
+TEST_F(SetupTest, SavedRecordsStandInTheListWithAccentedNamesBesideTheirPlainOnes) {
+    showSchools();
+    for (const char* name : {"Elm", "Écluse", "Fir", "O'Hara; 100% (A)"}) addSchool(QString::fromUtf8(name));
+    EXPECT_EQ(status(screen), "Record \"O'Hara; 100 (A)\" Saved.") << "what no filter passes is not typed";
+    EXPECT_EQ(list("cboSchoolList"), (QStringList{"Écluse", "Elm", "Fir", "O'Hara; 100 (A)"}));
+}
+
+TEST_F(SetupTest, FindingsComeInOneBoxAndTheFirstOneGetsTheCursor) {
+    press(screen, "cmdAdd");
+    running.league.dialogs.expectWarning("Critical Error - Defaults Setup",
+                                         "The Certification Name is a required entry.\nThe Certifying Organization is a required entry.");
+    press(screen, "cmdSave");
+    EXPECT_TRUE(control(screen, "txtCertName")->hasFocus());
+    press(screen, "cmdCancel");
+}
+
+TEST_F(SetupTest, MovingTellsWhereTheListEnds) {
+    const QStringList entries = list("cboCertSearchList");
+    auto* name = control<QLineEdit>(screen, "txtCertName");
+    press(screen, "cmdCertMove1");
+    EXPECT_EQ(status(screen), "First Record");
+    press(screen, "cmdCertMove3");
+    EXPECT_EQ(name->text(), entries.last());
+    press(screen, "cmdCertMove2");
+    EXPECT_EQ(status(screen), "Last Record");
+    press(screen, "cmdCertMove1");
+    EXPECT_EQ(name->text(), entries[entries.size() - 2]);
+    EXPECT_EQ(status(screen), "");
+    auto* search = control<SearchCombo>(screen, "cboCertSearchList");
+    search->setFocus();
+    QTest::keyClick(search, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(search, entries[1].left(4).toLower());
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_EQ(name->text(), entries[1]);
+}
+
+TEST_F(SetupTest, DeletedCertificationTakesItsLinksAlongAndComesBackUnderItsKey) {
+    const QStringList entries = list("cboCertSearchList");
+    const QString query = "SELECT * FROM tblCertifications WHERE [CertificationName] = " + datafile::quoted(entries[0]);
+    const QString key = running.league.value(query, "CertificationId");
+    running.league.database().execute("INSERT INTO tblVolunteerCertifications ([VolId], [CertificationId]) VALUES (9, " + key + ")");
+    const QString question = "This will permanently delete the current record.\n\nDo you want to continue?";
+    running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::No, question);
+    press(screen, "cmdDelete");
+    EXPECT_EQ(status(screen), QStringLiteral("Record \"%1\" NOT Deleted.").arg(entries[0]));
+    running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::Yes, question);
+    press(screen, "cmdDelete");
+    EXPECT_EQ(status(screen), QStringLiteral("Record \"%1\" Deleted.").arg(entries[0]));
+    EXPECT_EQ(list("cboCertSearchList"), entries.mid(1));
+    EXPECT_EQ(control<QLineEdit>(screen, "txtCertName")->text(), entries[1]);
+    EXPECT_EQ(running.league.value("tblVolunteerCertifications", "DeletedFlag"), "1");
+    press(screen, "cmdAdd");
+    type(screen, "txtCertName", entries[0].toUpper());
+    type(screen, "txtCertOrg", "Club");
+    press(screen, "cmdSave");
+    EXPECT_EQ(running.league.value(query, "CertificationId"), key);
+    EXPECT_EQ(list("cboCertSearchList").size(), entries.size());
+}
+
+TEST_F(SetupTest, DeletingTheLastRecordLeavesBlankBoxes) {
+    showSchools();
+    addSchool("Elm");
+    running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::Yes);
+    press(screen, "cmdDelete");
+    EXPECT_EQ(control<QLineEdit>(screen, "txtSchoolName")->text(), "");
+    EXPECT_FALSE(enabled("cmdDelete"));
+    addSchool("Fir");
+    EXPECT_EQ(list("cboSchoolList"), QStringList{"Fir"});
+}
+
+TEST_F(SetupTest, UnsavedWorkIsOfferedWhereverTheUserGoes) {
+    auto* tabs = screen->findChild<QTabWidget*>();
+    type(screen, "txtCertName", "");
+    running.league.dialogs.expectQuestion("Save Record?", BoxAnswer::Yes, "Save the current record?");
+    running.league.dialogs.expectWarning("Critical Error - Defaults Setup");
+    tabs->setCurrentIndex(1);
+    EXPECT_EQ(tabs->currentIndex(), 0) << "what cannot be saved keeps the tab";
+    running.league.dialogs.expectQuestion("Save Record?", BoxAnswer::No);
+    tabs->setCurrentIndex(1);
+    EXPECT_EQ(tabs->currentIndex(), 1);
+    press(screen, "cmdAdd");
+    type(screen, "txtSchoolName", "Elm");
+    running.league.dialogs.expectQuestion("Save Record?", BoxAnswer::Yes);
+    EXPECT_TRUE(screen->close());
+    EXPECT_EQ(running.league.value("tblSchoolInfo", "SchoolName"), "Elm");
+}
+
+TEST_F(SetupTest, SaveThatFailsAtClosingCanBeGivenUpOrNot) {
+    showSchools();
+    addSchool("Ash");
+    addSchool("Elm");
+    type(screen, "txtSchoolName", "Fir");
+    running.league.database().execute("DELETE FROM tblSchoolInfo WHERE [SchoolName] = \"Elm\"");
+    const auto failing = [this](BoxAnswer answer) {
+        running.league.dialogs.expectQuestion("Save Record?", BoxAnswer::Yes);
+        running.league.dialogs.expectError("Save Record?", "The following error occurred while attempting to save:\n"
+                                                           "The record was removed in the meantime.");
+        running.league.dialogs.expectQuestion("Save Record?", answer, "If you continue the current operation, \nchanges to your data will be lost.\n"
+                                                                      "Do you want to continue anyway?");
+    };
+    failing(BoxAnswer::No);
+    EXPECT_FALSE(screen->close());
+    failing(BoxAnswer::Yes);
+    EXPECT_TRUE(screen->close());
+}
+
+TEST_F(SetupTest, ScreenThatComesForwardShowsWhatOthersChanged) {
+    showSchools();
+    addSchool("Elm");
+    clsSchoolName other(running.league.context);
+    other.NewSchoolRecord();
+    other.SchoolName = "Ash";
+    other.SaveSchoolRecord();
+    running.open("frmTeams");
+    running.open("frmSetup")->activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list("cboSchoolList") == QStringList{"Ash", "Elm"}; }));
+    EXPECT_EQ(control<QLineEdit>(screen, "txtSchoolName")->text(), "Elm");
+}
+
+}  // namespace
