@@ -83,8 +83,6 @@ void RecordPane::setEditing(bool editing) {
     Q_EMIT stateChanged();
 }
 
-QString RecordPane::quotedName() const { return u'"' + name() + u'"'; }
-
 void RecordPane::focusSearch() {
     if (search_->isEnabled()) search_->setFocus();
 }
@@ -140,9 +138,13 @@ void RecordPane::showBlank() {
 }
 
 void RecordPane::addNew() {
+    beginNew([this] { makeNew(); });
+}
+
+void RecordPane::beginNew(const std::function<void()>& blank) {
     Q_EMIT said({});
     search_->setCurrentIndex(-1);
-    makeNew();
+    blank();
     form_->refresh();
     form_->setFieldsEnabled(true);
     shown();
@@ -184,7 +186,7 @@ bool RecordPane::save() {
     }
     const QString before = record_->isNew() ? QString() : shownEntry_;
     if (!writeGuarded(tr("The record was not saved"))) return false;
-    Q_EMIT said(tr("Record %1 Saved.").arg(quotedName()));
+    Q_EMIT said(tr("Record \"%1\" Saved.").arg(name()));
     placeInList(before);
     return true;
 }
@@ -217,24 +219,24 @@ QString RecordPane::deleteQuestion() const {
 void RecordPane::remove() {
     const int index = search_->currentIndex();
     if (index < 0 || !find(search_->entryAt(index)) || !mayDelete()) return;
-    const QString quoted = quotedName();
+    const QString deleted = name();
     if (!program_.dialogs().ask(tr("Delete Confirmation"), deleteQuestion())) {
-        Q_EMIT said(tr("Record %1 NOT Deleted.").arg(quoted));
+        Q_EMIT said(tr("Record \"%1\" NOT Deleted.").arg(deleted));
         return;
     }
     erase();
     search_->removeEntry(index);
     show(search_->entryCount() == 0 ? -1 : index > 0 ? index - 1 : 0);
-    Q_EMIT said(tr("Record %1 Deleted.").arg(quoted));
+    Q_EMIT said(tr("Record \"%1\" Deleted.").arg(deleted));
 }
 
 bool RecordPane::offerToSave() {
     if (!record_->isChanged()) return true;
     if (program_.dialogs().ask(tr("Save Record?"), tr("Save the current record?"))) return save();
-    const QString quoted = quotedName();
+    const QString unsaved = unsavedName();
     record_->undo();
     show(search_->indexOf(shownEntry_));
-    Q_EMIT said(tr("Record %1 NOT saved.").arg(quoted));
+    Q_EMIT said(tr("Record \"%1\" NOT saved.").arg(unsaved));
     return true;
 }
 

@@ -69,6 +69,8 @@ protected:
     Program& program() { return program_; }
     Form& form() { return *form_; }
     SearchCombo& search() { return *search_; }
+    /// Begins a new record that `blank` prepares.
+    void beginNew(const std::function<void()>& blank);
     /// An edit of the user's that no field of the form makes.
     void beginEditing();
 
@@ -76,6 +78,8 @@ protected:
     virtual bool find(const QString& entry) = 0;
     /// What the status line calls the record.
     virtual QString name() const = 0;
+    /// The same, of a record that the user chose not to save.
+    virtual QString unsavedName() const { return name(); }
     /// The record's text in the search list.
     virtual QString entry() const { return name(); }
     virtual std::vector<Finding> check() const = 0;
@@ -103,7 +107,6 @@ private:
     void readList();
     bool writeGuarded(const QString& title);
     void placeInList(const QString& before);
-    QString quotedName() const;
 
     Program& program_;
     PaneText text_;

@@ -74,6 +74,18 @@ void RecordScreen::addMenu(RecordPane* added) {
                         entry("Cancel", tr("Can&cel"), [added] { added->cancel(); })});
 }
 
+void RecordScreen::addOrder(RecordPane* owner, const QString& name, const QString& caption, const QString& entry, const std::function<void()>& run) {
+    auto* button = new QPushButton(caption, buttons_);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, run);
+    auto* row = static_cast<QHBoxLayout*>(buttons_->layout());
+    row->insertWidget(row->indexOf(add_) + 1, button);
+    for (const Entry& each : entries_)
+        if (each.pane == owner) orders_.push_back({owner, button, addEntry(each.menu->menu(), entry, caption, run)});
+    showState();
+}
+
 RecordPane* RecordScreen::pane() const { return qobject_cast<RecordPane*>(tabs_->currentWidget()); }
 
 /// Leaving a tab with unsaved work offers to save it; staying puts the tab back.
@@ -100,7 +112,11 @@ void RecordScreen::showState() {
     delete_->setEnabled(canDelete);
     cancel_->setEnabled(editing);
     refresh_->setEnabled(current && !editing);
-    save_->setDefault(editing);
+    for (const Order& order : orders_) {
+        order.button->setVisible(order.pane == current);
+        order.button->setEnabled(order.pane == current && canDelete);
+        order.entry->setEnabled(order.pane == current && canDelete);
+    }
     for (const Entry& entry : entries_) {
         entry.menu->setEnabled(entry.pane == current);
         entry.add->setEnabled(canAdd);

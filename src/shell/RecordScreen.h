@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "shell/MainScreen.h"
@@ -24,6 +25,8 @@ public:
 protected:
     void cameForward() override;
     void undo() override;
+    /// A further order of one pane, as a button behind Add New and an entry of its menu; possible while it is not edited.
+    void addOrder(RecordPane* pane, const QString& button, const QString& caption, const QString& entry, const std::function<void()>& run);
     QTabWidget& tabs() { return *tabs_; }
 
 private:
@@ -49,6 +52,12 @@ private:
     QPushButton* delete_ = nullptr;
     QPushButton* cancel_ = nullptr;
     QPushButton* refresh_ = nullptr;
+    struct Order {
+        RecordPane* pane;
+        QPushButton* button;
+        QAction* entry;
+    };
     std::vector<Entry> entries_;
+    std::vector<Order> orders_;
     int tab_ = 0;
 };

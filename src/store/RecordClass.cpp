@@ -56,6 +56,11 @@ void RecordClass::blank() {
     for (Column* column : columns_) column->blank();
 }
 
+void RecordClass::assignAll() {
+    for (Column* column : columns_) column->assigned_ = true;
+    dirty_ = true;
+}
+
 void RecordClass::newRecord() {
     blank();
     clearFlags();

@@ -63,6 +63,8 @@ public:
     bool isValid(bool showError) const;
     /// Drops the edits: clears the flags and loads the current row again.
     virtual void undo();
+    /// Makes the next update write every property: for a copy that is to go over another row.
+    void assignAll();
     /// Blanks the properties and marks the record as new.
     virtual void newRecord();
     /// Blanks the properties; the flags stay.

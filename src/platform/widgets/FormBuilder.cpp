@@ -36,6 +36,18 @@ void keepWidth(QWidget* widget, int characters) {
 
 FormBuilder::FormBuilder(Form* form) : form_(form) {}
 
+/// An area that scrolls what does not fit and otherwise cannot be seen.
+QWidget* FormBuilder::scrolled(QScrollArea* area) {
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    auto* content = new QWidget;
+    page(content);
+    area->setWidget(content);
+    area->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    return content;
+}
+
 /// What the form or one of its tabs shows: columns, in an area that scrolls when the window is too small.
 void FormBuilder::page(QWidget* content) {
     auto* layout = new QVBoxLayout(content);
@@ -56,12 +68,7 @@ FormBuilder& FormBuilder::tab(const QString& title) {
         layout->addWidget(tabs_);
     }
     auto* area = new QScrollArea(tabs_);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    auto* content = new QWidget(area);
-    page(content);
-    content->layout()->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
-    area->setWidget(content);
+    scrolled(area)->layout()->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
     tabs_->addTab(area, title);
     return *this;
 }
@@ -71,11 +78,7 @@ FormBuilder& FormBuilder::column(int weight) {
         auto* layout = new QVBoxLayout(form_);
         layout->setContentsMargins(0, 0, 0, 0);
         auto* area = new QScrollArea(form_);
-        area->setWidgetResizable(true);
-        area->setFrameShape(QFrame::NoFrame);
-        auto* content = new QWidget(area);
-        page(content);
-        area->setWidget(content);
+        scrolled(area);
         layout->addWidget(area);
     }
     auto* widget = new QWidget(columns_);
@@ -111,10 +114,31 @@ FormBuilder& FormBuilder::wide() {
     return *this;
 }
 
+FormBuilder& FormBuilder::together(const QString& caption) {
+    auto* both = new QWidget;
+    auto* layout = new QHBoxLayout(both);
+    layout->setContentsMargins({});
+    layout->setSpacing(spacing::group);
+    both->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    QWidget* before = last_;
+    place(both, caption, nullptr);
+    last_ = before;
+    together_ = layout;
+    togetherLeft_ = 2;
+    return *this;
+}
+
 /// Puts a caption and a widget into the next pair of the grid.
 QLabel* FormBuilder::place(QWidget* widget, const QString& caption, QWidget* buddy) {
-    if (pair_ >= pairs_) row();
     QLabel* label = nullptr;
+    if (togetherLeft_ > 0) {
+        --togetherLeft_;
+        together_->addWidget(widget);
+        if (last_) QWidget::setTabOrder(last_, widget);
+        last_ = widget;
+        return label;
+    }
+    if (pair_ >= pairs_) row();
     if (!caption.isEmpty()) {
         label = new QLabel(caption);
         label->setBuddy(buddy);

@@ -9,6 +9,7 @@
 
 class QBoxLayout;
 class QGridLayout;
+class QScrollArea;
 class QTabWidget;
 class ColumnRow;
 
@@ -45,6 +46,8 @@ public:
                         ChoiceBox::Options options = ChoiceBox::EmptyFirst, KeyFilter filter = {});
     FormBuilder& date(const QString& name, const QString& caption, DateBinding value);
     FormBuilder& check(const QString& name, const QString& caption, FlagBinding value);
+    /// The next two fields share one place behind this caption.
+    FormBuilder& together(const QString& caption);
     FormBuilder& yesNo(const QString& name, const QString& caption, FlagBinding isYes);
     FormBuilder& comments(const QString& name, const QString& caption, Binding value, KeyFilter filter = {});
     /// A text that is only shown.
@@ -54,6 +57,7 @@ public:
 
 private:
     void page(QWidget* content);
+    QWidget* scrolled(QScrollArea* area);
     QWidget* named(QWidget* editor, const QString& name, const QString& caption);
     QLabel* place(QWidget* widget, const QString& caption, QWidget* buddy);
     template <class Show>
@@ -70,5 +74,7 @@ private:
     int line_ = 0;
     int pair_ = 0;
     bool wide_ = false;
+    QBoxLayout* together_ = nullptr;
+    int togetherLeft_ = 0;
     QWidget* last_ = nullptr;
 };

@@ -1,0 +1,151 @@
+#include "registration/PlayerPane.h"
+
+#include "platform/text/Dates.h"
+#include "platform/text/Money.h"
+#include "platform/text/Numbers.h"
+#include "platform/widgets/Form.h"
+#include "shell/Program.h"
+#include "store/AgeRule.h"
+#include "store/Lookup.h"
+
+#include <QLabel>
+
+PlayerPane::PlayerPane(Program& program)
+    : RecordPane(program, {.tag = "Player",
+                           .caption = tr("Player Registrations"),
+                           .searchName = "cboPlayerSearchList",
+                           .searchCaption = tr("C&urrent Player"),
+                           .moveName = "cmdPlayerMove",
+                           .listQuery = "SELECT *, ([PlayerLastName] & \", \" & [PlayerFirstName] & \" - \" & [PlayerBirthDate]) as Name "
+                                        "FROM tblRegistration WHERE tblRegistration![DeletedFlag] = False "
+                                        "ORDER BY [PlayerLastName], [PlayerFirstName], [PlayerBirthDate]",
+                           .checkTitle = tr("Validation Error - Player Registration"),
+                           .missingText = tr("Error!  Player Name not found in Search List")}),
+      player_(program.store),
+      division_(program.store) {
+    start(player_, buildForm());
+}
+
+bool PlayerPane::find(const QString& entry) { return player_.FindPlayerRecord(entry, false, true) && !player_.PlayerDeletedFlag; }
+
+void PlayerPane::shown() {
+    bool found = false;
+    if (!player_.IsPlayerNew()) loaded_ = key();
+    divisionName_.clear();
+    if (player_.PlayerDivisionId != 0) division_.FindDivisionRecordById(player_.PlayerDivisionId, false, true, found);
+    if (found) divisionName_ = division_.DivName;
+    teamName_ = player_.PlayerTeamId == 0 ? QString()
+                                          : ReadFieldValue(program().store, program().store.dataFilePath, QStringLiteral("TeamName"),
+                                                           QStringLiteral("tblTeam"), live(matches("TeamId", player_.PlayerTeamId)));
+    showAge();
+    form().refresh();
+    showBalance();
+}
+
+/// The age on screen follows the division and birth date as they are chosen; a look at a record changes nothing.
+void PlayerPane::showAge() {
+    CutOff own;
+    if (!divisionName_.isEmpty()) own = {division_.DivAgeCutOffMonth, division_.DivAgeCutOffDay};
+    const Globals& globals = program().globals();
+    const CutOff cutOff = cutOffByField(own, {globals.defaultAgeCutoffMonth, globals.defaultAgeCutoffDay});
+    const int age = CalculateAge(shortDate(player_.PlayerBirthDate), cutOff.month, cutOff.day, globals.currentSeasonYear);
+    const bool dirty = player_.IsPlayerDirty();
+    player_.PlayerAge = QString::number(age);
+    player_.SetIsPlayerDirty(dirty);
+}
+
+void PlayerPane::chooseDivision(const QString& name) {
+    bool found = false;
+    if (!name.isEmpty()) division_.FindDivisionRecord(name, false, true, found);
+    divisionName_ = found ? division_.DivName() : QString();
+    player_.PlayerDivisionId = found ? division_.DivId() : 0;
+    player_.PlayerTeamId = 0;
+    teamName_.clear();
+    if (found && player_.PlayerFeeAmount().isEmpty()) player_.PlayerFeeAmount = division_.DivRegistrationFee;
+    showAge();
+}
+
+void PlayerPane::showBalance() {
+    Money owed;
+    for (const Text* fee : {&player_.PlayerFeeAmount, &player_.PlayerFundRaiserFee, &player_.PlayerOtherFees}) owed = owed + Money::orZero((*fee)());
+    const Money paid = Money::orZero(player_.PlayerAmountPaid());
+    const bool due = owed >= paid;
+    form().setCaption(QStringLiteral("lblPlayerBalance"), due ? tr("Balance Due") : tr("Refund Due"));
+    form().display(QStringLiteral("lblPlayerBalance"), (due ? owed - paid : paid - owed).text());
+    if (auto* value = form().findChild<QLabel*>(QStringLiteral("lblPlayerBalance"))) {
+        QPalette colours = palette();
+        if (!due) colours.setColor(QPalette::WindowText, QColor(0xc6, 0x28, 0x28));
+        value->setPalette(colours);
+    }
+}
+
+void PlayerPane::setDefaults() {
+    const Globals& globals = program().globals();
+    player_.PlayerCity = globals.defaultCity;
+    player_.PlayerStateId = globals.defaultStateId;
+    player_.PlayerPostalCode = globals.defaultPostalCode;
+    for (Text* area : {&player_.PlayerPhoneArea, &player_.PlayerDadPhoneArea, &player_.PlayerDadWorkPhoneArea, &player_.PlayerDadMobilePhoneArea,
+                       &player_.PlayerMomPhoneArea, &player_.PlayerMomWorkPhoneArea, &player_.PlayerMomMobilePhoneArea})
+        *area = globals.defaultAreaCode;
+    player_.PlayerFeeAmount = QString();
+    const auto fundRaiser = Money::parse(globals.defaultFundRaiserFee);
+    player_.PlayerFundRaiserFee = fundRaiser && *fundRaiser != Money() ? fundRaiser->text() : QString();
+}
+
+void PlayerPane::makeNew() {
+    player_.NewPlayerRecord();
+    setDefaults();
+    player_.SetIsPlayerDirty(false);
+}
+
+std::vector<Finding> PlayerPane::check() const {
+    const struct {
+        const Text& value;
+        const char* field;
+        QString text;
+    } rules[] = {{player_.PlayerLastName, "txtPlayerLastName", tr("The Players Last Name is a required entry.")},
+                 {player_.PlayerFirstName, "txtPlayerFirstName", tr("The Players First Name is a required entry.")},
+                 {player_.PlayerAddress1, "txtPlayerAddress1", tr("The Players Address is a required entry.")},
+                 {player_.PlayerCity, "txtPlayerCity", tr("The City is a required entry.")},
+                 {player_.PlayerStateId, "cboPlayerStateId", tr("The State Id is a required entry.")},
+                 {player_.PlayerPostalCode, "txtPlayerPostalCode", tr("The Zip/Postal Code is a required entry.")},
+                 {player_.PlayerPhone, "mskedPlayerPhone", tr("The Phone Number is a required entry.")}};
+    std::vector<Finding> findings;
+    for (const auto& rule : rules) {
+        const bool blank = rule.value().trimmed().isEmpty() || rule.value().trimmed() == u"-";
+        if (blank) findings.push_back({rule.field, rule.text});
+        if (&rule.value == &player_.PlayerFirstName && !player_.PlayerBirthDate().isValid())
+            findings.push_back({QStringLiteral("dtpPlayerBirthDate"), tr("The Players Birth Date is a required entry.")});
+    }
+    return findings;
+}
+
+bool PlayerPane::write() { return settleIdentity() && RecordPane::write(); }
+
+QString PlayerPane::deleteQuestion() const { return tr("Are you sure you want to delete player %1?").arg(name()); }
+
+bool PlayerPane::mayDelete() {
+    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    datafile::Recordset held = database.openRecordset("SELECT * FROM tblEquipmentAssignment WHERE [PlayerId] = " +
+                                                      QString::number(player_.PlayerId) + " AND [DeletedFlag] = False");
+    if (held.eof()) return true;
+    program().dialogs().error(tr("Delete Error..."), tr("The Player being deleted has Equipment assigned to them.\n"
+                                                         "Delete any equipment assignments\nbefore deleting this record."));
+    cancel();
+    return false;
+}
+
+void PlayerPane::erase() {
+    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    datafile::Transaction transaction(database);
+    datafile::Recordset ratings = database.openRecordset("SELECT * FROM tblAbilityRating WHERE [PlayerId] = " +
+                                                         QString::number(player_.PlayerId) + " AND [DeletedFlag] = False");
+    softDeleteAll(ratings, program().clock());
+    player_.DeletePlayerRecord();
+    transaction.commit();
+}
+
+void PlayerPane::addSibling() {
+    if (player_.PlayerId == 0 || isEditing()) return;
+    beginNew([this] { player_.NewSiblingPlayerRecord(); });
+}

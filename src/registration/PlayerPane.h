@@ -1,0 +1,57 @@
+#pragma once
+
+#include "league/clsDivision.h"
+#include "registration/clsRegistration.h"
+#include "shell/RecordPane.h"
+
+class FormBuilder;
+
+/// Where a registrar types one child at a time.
+class PlayerPane final : public RecordPane {
+    Q_OBJECT
+
+public:
+    explicit PlayerPane(Program& program);
+
+    /// As New, keeping what brothers and sisters share.
+    void addSibling();
+
+private:
+    // The form (PlayerForm.cpp).
+    Form* buildForm();
+    void addPersonalFrame(FormBuilder& builder);
+    void addLeagueFrame(FormBuilder& builder);
+    void addFeeFrame(FormBuilder& builder);
+    QStringList lookup(const QString& query, const QString& column);
+
+    bool find(const QString& entry) override;
+    QString name() const override { return key().text(); }
+    QString unsavedName() const override { return player_.PlayerLastName(); }
+    std::vector<Finding> check() const override;
+    bool write() override;
+    void makeNew() override;
+    QString firstField() const override { return QStringLiteral("txtPlayerLastName"); }
+    QString deleteQuestion() const override;
+    bool mayDelete() override;
+    void erase() override;
+    void shown() override;
+
+    PlayerKey key() const { return {player_.PlayerLastName(), player_.PlayerFirstName(), player_.PlayerBirthDate()}; }
+    void setDefaults();
+    void chooseDivision(const QString& name);
+    void showAge();
+    void showBalance();
+
+    // The questions before a save (PlayerIdentity.cpp).
+    bool settleIdentity();
+    bool settleRename();
+    bool settleNew();
+    bool refuseRename();
+    void revive(int retiredId, int revivedId);
+
+    clsRegistration player_;
+    clsDivision division_;
+    QString divisionName_;
+    QString teamName_;
+    PlayerKey loaded_;  ///< of the record as it came from the file
+};
