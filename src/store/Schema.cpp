@@ -145,7 +145,7 @@ QList<TableDef> people() {
 QList<TableDef> structure() {
     QList<TableDef> tables{
         stamped("tblDivision",
-                key("DivisionId") + required(text("DivName", 30)) + text("DivDifficultyRating") + text("DivGender", 10) +
+                key("DivisionId") + required(text("DivName", 30)) + text("DivDifficultyRating") + text("DivGender", 20) +
                     text("DivMinAge DivMaxAge", 3) + text("DivUmpPlatePay DivUmpBasePay", 12) + text("DivNbrOfUmpsRequired", 2) +
                     small("DivCertUmpsRequired") + text("DivComments", commentWidth) + defaulting("$0.00", text("DivRegistrationFee", 12)) +
                     defaulting("1", text("DivAgeCutOffMonth DivAgeCutOffDay", 2)) + text("OfficialDivName") + text("DivSport", 20) +
@@ -153,7 +153,7 @@ QList<TableDef> structure() {
                 {index("DivisionName", "DivName"), index("OfficialDivName", "OfficialDivName"), index("LarkfoldKey", "DivLarkfoldKey")}),
         stamped("tblTeam",
                 key("TeamId") + number("DivisionId") + defaulting("0", number("SponsorId")) + text("TeamName", 35) +
-                    text("TeamGender", 10) + text("TeamLeagueName TeamColors") + text("TeamFeeAmount TeamFeePaid", 12) +
+                    text("TeamGender", 20) + text("TeamLeagueName TeamColors") + text("TeamFeeAmount TeamFeePaid", 12) +
                     text("TeamComments", commentWidth) + text("TeamShirtColor TeamPantsColor TeamHatColor TeamSocksColor", 30) +
                     text("TeamLarkfoldKey DivLarkfoldKey", keyWidth),
                 {index("TeamName", "TeamName"), index("LarkfoldKey", "TeamLarkfoldKey"), index("DivLarkfoldKey", "DivLarkfoldKey"),
