@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QtEndian>
 #include <sqlite3.h>
 #include <utility>
 
@@ -72,6 +73,7 @@ QString explain(Fault fault, const QString& path) {
             return tr("The data file %1 cannot be written.  Check the permissions of the file and of its folder.").arg(name);
         case Fault::Locked: return tr("The data file %1 is in use by another program.  Close it there and try again.").arg(name);
         case Fault::Full: return tr("There is no space left on the disk of %1.  Nothing was saved.").arg(name);
+        case Fault::State: return tr("A part of the work failed.  Nothing of it was saved.");
         case Fault::OutOfMemory: return tr("There is not enough memory.");
         default: return tr("The disk reported an error on %1.  Nothing was saved.").arg(name);
     }
@@ -176,6 +178,7 @@ void Connection::close() {
     dropStatements();
     sqlite3_close_v2(std::exchange(handle_, nullptr));
     depth_ = 0;
+    ended_.reset();
     forgetSchema();
 }
 
@@ -189,6 +192,7 @@ qint64 Connection::lastKey() const { return sqlite3_last_insert_rowid(handle_); 
 
 sqlite3_stmt* Connection::take(const QString& sql) {
     if (!handle_) throw Error(Fault::NotFound, explain(Fault::NotFound, path_));
+    if (ended_) throw Error(*ended_, explain(*ended_, path_));
     if (sqlite3_stmt* idle = idle_.take(sql)) return idle;
     sqlite3_stmt* statement = nullptr;
     const QByteArray text = sql.toUtf8();
@@ -246,6 +250,7 @@ void Connection::raise(int code, const QString& sql) {
         default: break;
     }
     const Fault fault = faultOf(code);
+    if (depth_ > 0 && handle_ && sqlite3_get_autocommit(handle_)) ended_ = fault;
     throw Error(fault, fault == Fault::Statement ? QString(message + u'\n' + sql) : explain(fault, path_));
 }
 
@@ -299,15 +304,17 @@ TableDef Connection::readTable(const QString& name) {
 }
 
 void Connection::begin(bool schema) {
-    if (depth_++ > 0) return;
-    try {
-        schemaTransaction_ = schema;
+    if (depth_ == 0) {
         if (schema) Statement(*this, QStringLiteral("PRAGMA foreign_keys = OFF")).run();
-        Statement(*this, QStringLiteral("BEGIN IMMEDIATE")).run();
-    } catch (...) {
-        depth_ = 0;
-        throw;
+        schemaTransaction_ = schema;
+        try {
+            Statement(*this, QStringLiteral("BEGIN IMMEDIATE")).run();
+        } catch (const Error&) {
+            watchRelations();
+            throw;
+        }
     }
+    ++depth_;
 }
 
 void Connection::commit() {
@@ -320,17 +327,54 @@ void Connection::commit() {
         if (broken.step())
             throw Error(Fault::Relation, tr("Rows that belong together would be torn apart: %1.").arg(broken.text(0)));
     }
-    Statement(*this, QStringLiteral("COMMIT")).run();
+    const quint32 before = commitsInFile();
+    try {
+        Statement(*this, QStringLiteral("COMMIT")).run();
+    } catch (const Error&) {
+        if (!hasMoreCommits(before)) throw;
+    }
     depth_ = 0;
-    if (std::exchange(schemaTransaction_, false)) Statement(*this, QStringLiteral("PRAGMA foreign_keys = ON")).run();
+    watchRelations();
+}
+
+/// Behind the end of a transaction: relations, if it was one of the schema, are watched again.
+void Connection::watchRelations() {
+    if (std::exchange(schemaTransaction_, false) && handle_)
+        sqlite3_exec(handle_, "PRAGMA foreign_keys = ON", nullptr, nullptr, nullptr);
+}
+
+/// The count of commits in the file's header. Reading from the file first takes back a commit that was cut short.
+quint32 Connection::commitsInFile() {
+    constexpr qint64 countAt = 24;
+    Statement(*this, QStringLiteral("SELECT 1 FROM sqlite_schema")).step();
+    sqlite3_file* file = nullptr;
+    quint32 count = 0;
+    int code = sqlite3_file_control(handle_, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    if (code == SQLITE_OK) code = file->pMethods->xRead(file, &count, sizeof count, countAt);
+    if (code != SQLITE_OK) raise(code, {});
+    return qFromBigEndian(count);
+}
+
+/// After a commit that failed: whether it is in the file all the same.
+bool Connection::hasMoreCommits(quint32 than) {
+    if (!sqlite3_get_autocommit(handle_)) return false;  // it did not even begin
+    ended_.reset();
+    try {
+        return commitsInFile() != than;
+    } catch (const Error&) {
+        return false;
+    }
 }
 
 void Connection::rollback() {
     if (depth_ == 0) return;
-    depth_ = 0;
     if (handle_ && !sqlite3_get_autocommit(handle_)) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
-    if (std::exchange(schemaTransaction_, false) && handle_)
-        sqlite3_exec(handle_, "PRAGMA foreign_keys = ON", nullptr, nullptr, nullptr);
+    if (--depth_ > 0) {
+        if (!ended_) ended_ = Fault::State;
+        return;
+    }
+    ended_.reset();
+    watchRelations();
     forgetSchema();
 }
 

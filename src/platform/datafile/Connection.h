@@ -80,10 +80,25 @@ public:
         reopen();
     }
 
-    /// Nested transactions count as part of the outermost. `schema`: relations are not watched until the commit.
+    /// Nested transactions count as part of the outermost: where one is rolled back, or the disk fails in it, nothing
+    /// more can be done until the outermost is rolled back too. `schema`: relations are not watched until the commit.
     void begin(bool schema);
+    /// When it raises, nothing was written: a commit that reports a failure is looked up in the file before that is said.
     void commit();
     void rollback();
+    /// Runs `work` as a transaction of its own, or as part of the open one.
+    template <class Work>
+    void write(Work work) {
+        if (inTransaction()) return work();
+        begin(false);
+        try {
+            work();
+            commit();
+        } catch (...) {
+            rollback();
+            throw;
+        }
+    }
     bool inTransaction() const { return depth_ > 0; }
 
     [[noreturn]] void raise(int code, const QString& sql);
@@ -98,12 +113,16 @@ private:
     void giveBack(const QString& sql, sqlite3_stmt* statement);
     void dropStatements();
     TableDef readTable(const QString& name);
+    void watchRelations();
+    quint32 commitsInFile();
+    bool hasMoreCommits(quint32 than);
 
     QString path_;
     sqlite3* handle_ = nullptr;
     int epoch_ = 0;
     int depth_ = 0;
     bool schemaTransaction_ = false;
+    std::optional<Fault> ended_;  ///< what ended the open transaction before its time
     QHash<QString, sqlite3_stmt*> idle_;
     QStringList tableNames_;
     bool namesKnown_ = false;

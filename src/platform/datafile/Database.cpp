@@ -38,7 +38,9 @@ std::vector<QString> Database::readList(const QString& query, const QString& col
 qint64 Database::execute(const QString& text) const {
     const dialect::Shape shape = dialect::shapeOf(text);
     const qint64 before = connection_->changes();
-    Statement(*connection_, dialect::translate(shape.text, lookup(*connection_))).bind(shape.values).run();
+    connection_->write([&] {
+        Statement(*connection_, dialect::translate(shape.text, lookup(*connection_))).bind(shape.values).run();
+    });
     return connection_->changes() - before;
 }
 
@@ -82,9 +84,7 @@ void Database::addField(const QString& table, const FieldDef& field) const {
     if (from.field(field.name)) throw Error(Fault::Statement, tr("The table %1 has a column %2 already.").arg(table, field.name));
     const bool plain = (!field.hasDefault || field.type == ColumnType::Boolean) && !field.required && field.type != ColumnType::AutoKey;
     if (plain) {
-        Statement(*connection_, QStringLiteral("ALTER TABLE %1 ADD COLUMN %2").arg(sql::identifier(from.name), sql::column(field))).run();
-        connection_->forgetSchema();
-        return;
+        return changeSchema(QStringLiteral("ALTER TABLE %1 ADD COLUMN %2").arg(sql::identifier(from.name), sql::column(field)));
     }
     TableDef to = from;
     to.fields << field;
@@ -117,12 +117,15 @@ void Database::changeField(const QString& table, const FieldDef& field) const {
 }
 
 void Database::addIndex(const QString& table, const IndexDef& index) const {
-    Statement(*connection_, sql::createIndex(need(table).name, index)).run();
-    connection_->forgetSchema();
+    changeSchema(sql::createIndex(need(table).name, index));
 }
 
 void Database::deleteIndex(const QString& table, const QString& index) const {
-    Statement(*connection_, QStringLiteral("DROP INDEX ") + sql::identifier(sql::indexName(need(table).name, index))).run();
+    changeSchema(QStringLiteral("DROP INDEX ") + sql::identifier(sql::indexName(need(table).name, index)));
+}
+
+void Database::changeSchema(const QString& statement) const {
+    connection_->write([&] { Statement(*connection_, statement).run(); });
     connection_->forgetSchema();
 }
 

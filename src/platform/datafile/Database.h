@@ -46,6 +46,7 @@ public:
 
 private:
     friend class Transaction;
+    void changeSchema(const QString& statement) const;
     void rebuild(const TableDef& from, const TableDef& to) const;
     TableDef need(const QString& table) const;
 

@@ -344,15 +344,8 @@ void Recordset::set(int field, Value value) {
 
 void Recordset::update() {
     if (mode_ == EditMode::None) throw Error(Fault::State, tr("No row is being edited."));
-    const qint64 expectedKey = mode_ == EditMode::Edit ? current_ : 0;
-    try {
-        writeRow();
-        lastModified_ = mode_ == EditMode::Edit ? current_ : connection_->lastKey();
-    } catch (const Error& error) {
-        const bool uncertain = error.fault() == Fault::InputOutput || error.fault() == Fault::Full;
-        if (!uncertain || connection_->inTransaction() || expectedKey == 0 || !wasWritten(expectedKey)) throw;
-        lastModified_ = expectedKey;
-    }
+    connection_->write([this] { writeRow(); });
+    lastModified_ = mode_ == EditMode::Edit ? current_ : connection_->lastKey();
     if (mode_ == EditMode::Add && keys_) keys_->push_back(lastModified_);
     if (place_ == Place::Empty && mode_ == EditMode::Add) place_ = Place::After;
     mode_ = EditMode::None;
@@ -382,25 +375,15 @@ void Recordset::writeRow() {
     if (connection_->changes() == before) throw Error(Fault::NoCurrentRecord, tr("The record was removed in the meantime."));
 }
 
-bool Recordset::wasWritten(qint64 key) {
-    try {
-        for (const auto& [field, value] : pending_) {
-            Statement read(*connection_, QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?")
-                                             .arg(sql::identifier(fields_[static_cast<size_t>(field)].name), sql::identifier(query_.table)));
-            if (!read.bind(Value{key}).step() || read.value(0) != value) return false;
-        }
-        return true;
-    } catch (const Error&) {
-        return false;
-    }
-}
-
 void Recordset::remove() {
     refreshAfterReplacement();
     if (type_ == Type::Snapshot) throw Error(Fault::State, tr("These rows cannot be changed."));
     if (place_ != Place::Row) throw Error(Fault::NoCurrentRecord, tr("There is no current record."));
     const int at = position();
-    Statement(*connection_, QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(sql::identifier(query_.table))).bind(Value{current_}).run();
+    connection_->write([this] {
+        Statement row(*connection_, QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(sql::identifier(query_.table)));
+        row.bind(Value{current_}).run();
+    });
     keys_->erase(keys_->begin() + at);
     ahead_.clear();
     position_ = at;

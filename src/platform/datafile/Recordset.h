@@ -42,7 +42,7 @@ public:
     void addNew();
     void edit();
     /// Writes the values set since edit() or addNew(): these columns and no others. When it raises, nothing was
-    /// written: a write that reported a failure is read back before that is said.
+    /// written.
     void update();
     void cancelUpdate() { mode_ = EditMode::None; }
     EditMode editMode() const { return mode_; }
@@ -101,7 +101,6 @@ private:
     QString keyQuery(const QString& criteria, const char* ending) const;
     Values keyValues(const Values& criteria = {}) const;
     void writeRow();
-    bool wasWritten(qint64 key);
 
     std::shared_ptr<Connection> connection_;
     Type type_;
