@@ -16,6 +16,11 @@ namespace {
 QString tr(const char* text) { return QCoreApplication::translate("datafile", text); }
 QString keyOf(const QString& path) { return QDir::cleanPath(QFileInfo(path).absoluteFilePath()); }
 
+/// A journal left beside a file that another takes the place of would be played into that other.
+void removeSidecars(const QString& path) {
+    for (const char* sidecar : {"-journal", "-wal", "-shm"}) QFile::remove(path + QLatin1String(sidecar));
+}
+
 [[noreturn]] void passOn(const files::Error& error) {
     const Fault fault = error.full() ? Fault::Full : error.readOnly() ? Fault::ReadOnly : Fault::InputOutput;
     throw Error(fault, error.text());
@@ -45,6 +50,7 @@ void Workspace::copyDatabase(const QString& from, const QString& to) {
     try {
         const Database source = openDatabase(from);
         Transaction quiet(source);
+        removeSidecars(to);
         files::copyWhole(from, to);
     } catch (const files::Error& error) {
         passOn(error);
@@ -75,7 +81,7 @@ void Workspace::replaceDatabase(const QString& path, const QString& made) {
     inspectDataFile(made);
     const auto swap = [&] {
         try {
-            for (const char* sidecar : {"-journal", "-wal", "-shm"}) QFile::remove(path + QLatin1String(sidecar));
+            removeSidecars(path);
             files::replaceWith(made, path);
         } catch (const files::Error& error) {
             passOn(error);

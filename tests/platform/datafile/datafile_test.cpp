@@ -249,7 +249,13 @@ TEST_F(DataFileTest, CompactCopyAndReplaceReachOpenCursors) {
     addDivision("B");
     Recordset divisions = database.openRecordset("SELECT * FROM tblDivision ORDER BY [DivName]");
     divisions.moveLast();
+    const auto leaveJournal = [](const QString& beside) {
+        QFile stale(beside + "-journal");
+        return stale.open(QIODevice::WriteOnly) && stale.write("stale") == 5;
+    };
+    ASSERT_TRUE(leaveJournal(folder.filePath("copy.BKM")));
     workspace.copyDatabase(path(), folder.filePath("copy.BKM"));
+    EXPECT_FALSE(QFile::exists(folder.filePath("copy.BKM-journal")));
     EXPECT_EQ(faultOf([&] { workspace.copyDatabase(path(), path()); }), Fault::InputOutput);
     ASSERT_TRUE(QFile::link(path(), folder.filePath("same.BKM")));
     EXPECT_EQ(faultOf([&] { workspace.copyDatabase(path(), folder.filePath("same.BKM")); }), Fault::InputOutput);
@@ -257,9 +263,7 @@ TEST_F(DataFileTest, CompactCopyAndReplaceReachOpenCursors) {
     workspace.compactDatabase(path(), folder.filePath("small.CPT"));
     checkIntegrity(folder.filePath("small.CPT"));
 
-    QFile stale(path() + "-journal");
-    ASSERT_TRUE(stale.open(QIODevice::WriteOnly) && stale.write("stale") == 5);
-    stale.close();
+    ASSERT_TRUE(leaveJournal(path()));
     workspace.replaceDatabase(path(), folder.filePath("copy.BKM"));
     EXPECT_EQ(divisions.text("DivName"), "B") << "the row of the same key in the file put back";
     EXPECT_EQ(divisions.recordCount(), 2);
