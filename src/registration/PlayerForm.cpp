@@ -10,8 +10,8 @@ Form* PlayerPane::buildForm() {
     FormBuilder builder(form);
     builder.tab(tr("Players"));
     addPersonalFrame(builder.column(3));
-    addLeagueFrame(builder.column(2));
     addFeeFrame(builder);
+    addLeagueFrame(builder.column(2));
     form->setDateFormat(program().globals().defaultDateFormat);
     connect(form, &Form::left, this, &PlayerPane::showBalance);
     return form;
@@ -33,33 +33,31 @@ void PlayerPane::addPersonalFrame(FormBuilder& builder) {
                        },
                        own.size());
     };
-    builder.frame(tr("Player Personal Information"))
+    builder.frame(tr("Player Personal Information"), 3)
         .text("txtPlayerLastName", tr("&Last Name *"), shared(player.PlayerLastName, player.PlayerDadLastName, player.PlayerMomLastName), FilterTextFull)
-        .row()
         .text("txtPlayerFirstName", tr("&First Name *"), player.PlayerFirstName, FilterTextFull)
-        .text("txtPlayerMiddleInitial", tr("M.I."), player.PlayerMiddleInitial, FilterTextFull)
-        .wide().text("txtPlayerAddress1", tr("Street &Address 1 *"), player.PlayerAddress1, FilterTextWide)
+        .text("txtPlayerMiddleInitial", tr("Initial"), player.PlayerMiddleInitial, FilterTextFull)
+        .span(2).text("txtPlayerAddress1", tr("Street &Address 1 *"), player.PlayerAddress1, FilterTextWide)
         .text("txtPlayerAddress2", tr("Apt. Number"), player.PlayerAddress2, FilterTextWide)
         .text("txtPlayerCity", tr("City  *"), player.PlayerCity, FilterTextFull)
         .choice("cboPlayerStateId", tr("St./Prov.*"), player.PlayerStateId, lookup("SELECT [StateId] from tblState ORDER BY [StateId]", "StateId"),
                 ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
         .text("txtPlayerPostalCode", tr("&Zip/Postal *"), player.PlayerPostalCode, FilterTextFull)
-        .choice("cboPlayerCountryCode", tr("Country"), player.PlayerCountryCode, {"Canada", "USA"}, ChoiceBox::FreeText | ChoiceBox::EmptyFirst)
-        .phone("mskedPlayerPhoneArea", "mskedPlayerPhone", tr("&Home Phone *"),
+        .choice("cboPlayerCountryCode", tr("Country"), player.PlayerCountryCode, {"Canada", "USA"}, ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
+        .span(2).phone("mskedPlayerPhoneArea", "mskedPlayerPhone", tr("&Home Phone *"),
                shared(player.PlayerPhoneArea, player.PlayerDadPhoneArea, player.PlayerMomPhoneArea),
                shared(player.PlayerPhone, player.PlayerDadPhone, player.PlayerMomPhone))
-        .row()
-        .wide().text("txtPlayerEmailAddress", tr("&Email Address"), player.PlayerEmailAddress, FilterTextFull)
+        .span(3).text("txtPlayerEmailAddress", tr("&Email Address"), player.PlayerEmailAddress, FilterTextFull)
         .date("dtpPlayerBirthDate", tr("&Birth Date *"), {[&player] { return player.PlayerBirthDate(); }, [this](const QDate& date) {
                                                               player_.PlayerBirthDate = date;
                                                               showAge();
                                                           }})
         .shown("lblPlayerAge", tr("Age"), [&player] { return player.PlayerAge(); }, 4)
-        .choice("cboPlayerGender", tr("&Gender"), player.PlayerGender, {"Male", "Female"})
-        .text("txtPlayerYearsExperience", tr("Exp."), player.PlayerYearsExperience, FilterNumeric)
+        .choice("cboPlayerGender", tr("Gende&r"), player.PlayerGender, {"Male", "Female"})
         .text("txtPlayerHeight", tr("Height"), player.PlayerHeight, FilterNumeric)
         .text("txtPlayerWeight", tr("Weight"), player.PlayerWeight, FilterNumeric)
-        .together(tr("Hand Used?"))
+        .text("txtPlayerYearsExperience", tr("Exp."), player.PlayerYearsExperience, FilterNumeric)
+        .span(3).together(tr("Hand Used?"))
         .check("chkPlayerHandRight", tr("Right"), player.PlayerHandRight)
         .check("chkPlayerHandLeft", tr("Left"), player.PlayerHandLeft);
 }
@@ -68,15 +66,13 @@ void PlayerPane::addLeagueFrame(FormBuilder& builder) {
     clsRegistration& player = player_;
     builder.frame(tr("League Use"))
         .date("dtpPlayerRegistrationDate", tr("Re&g Date"), player.PlayerRegistrationDate)
-        .row()
-        .wide().choice("cboPlayerDivision", tr("&Division"), Binding([this] { return divisionName_; }, [this](const QString& name) { chooseDivision(name); }, 30),
-                       lookup("SELECT [DivName] FROM tblDivision WHERE [DeletedFlag] = False ORDER BY [DivName]", "DivName"))
-        .wide().shown("lblPlayerTeamName", tr("Team Name"), [this] { return teamName_; })
         .text("txtPlayerTryoutNumber", tr("&Tryout Number"), player.PlayerTryoutNumber, FilterNumeric)
-        .row()
-        .text("txtPlayerRegistrationNumber", tr("Registration Nbr"), player.PlayerRegistrationNumber, FilterTextFull)
-        .row()
-        .check("chkPlayerActive", tr("Act&ive?"), player.PlayerActive)
+        .span(2).choice("cboPlayerDivision", tr("&Division"),
+                Binding([this] { return divisionName_; }, [this](const QString& name) { chooseDivision(name); }, 30),
+                lookup("SELECT [DivName] FROM tblDivision WHERE [DeletedFlag] = False ORDER BY [DivName]", "DivName"))
+        .span(2).shown("lblPlayerTeamName", tr("Team Name"), [this] { return teamName_; })
+        .span(2).text("txtPlayerRegistrationNumber", tr("Registration Nbr"), player.PlayerRegistrationNumber, FilterTextFull)
+        .check("chkPlayerActive", tr("Acti&ve?"), player.PlayerActive)
         .check("chkPlayerIsUmpire", tr("Umpire?"), player.PlayerIsUmpire)
         .check("chkPlayerIdCheck", tr("Residency Checked?"), player.PlayerIdCheck)
         .check("chkPlayerBirthCertificateChecked", tr("Birth Cert. Checked?"), player.PlayerBirthCertificateChecked);
@@ -84,17 +80,13 @@ void PlayerPane::addLeagueFrame(FormBuilder& builder) {
 
 void PlayerPane::addFeeFrame(FormBuilder& builder) {
     clsRegistration& player = player_;
-    builder.frame(tr("Fees"))
+    builder.frame(tr("Fees"), 3)
         .money("mskedPlayerFeeAmount", tr("&Per Player Fee"), player.PlayerFeeAmount)
-        .row()
         .money("mskedPlayerFundRaiserFee", tr("Fund Raiser Donation"), player.PlayerFundRaiserFee)
-        .row()
         .money("mskedPlayerOtherFees", tr("Other Fees"), player.PlayerOtherFees)
         .row()
         .money("mskedPlayerAmountPaid", tr("A&mt. Paid"), player.PlayerAmountPaid)
-        .row()
         .choice("cboPlayerHowFeePaid", tr("How Fee Paid?"), player.PlayerHowFeePaid,
                 lookup("SELECT [HowFeePaidText] from tblHowFeePaid WHERE [DeletedFlag] = False ORDER BY [HowFeePaidText]", "HowFeePaidText"))
-        .row()
         .shown("lblPlayerBalance", tr("Balance Due"), [] { return Money().text(); }, 10);
 }

@@ -2,7 +2,7 @@
 
 #include "registration/PlayerPane.h"
 
-frmRegister::frmRegister(Program& program) : RecordScreen(program, QStringLiteral("frmRegister"), {1120, 690}) {
+frmRegister::frmRegister(Program& program) : RecordScreen(program, QStringLiteral("frmRegister"), {1240, 700}) {
     auto* players = new PlayerPane(program);
     addPane(players);
     addOrder(players, QStringLiteral("cmdAddSibling"), tr("Add S&ibling"), QStringLiteral("mnuDataNewSiblingRecord"),

@@ -84,7 +84,7 @@ void RecordPane::setEditing(bool editing) {
 }
 
 void RecordPane::focusSearch() {
-    if (search_->isEnabled()) search_->setFocus();
+    if (search_->isEnabled()) search_->setFocus(Qt::TabFocusReason);
 }
 
 void RecordPane::move(int code) {
@@ -207,7 +207,7 @@ void RecordPane::cancel() {
     record_->undo();
     Q_EMIT said({});
     show(search_->indexOf(shownEntry_));
-    search_->setFocus();
+    focusSearch();
 }
 
 void RecordPane::refresh() { cancel(); }

@@ -61,7 +61,7 @@ QSize EntryEdit::sizeHint() const {
 }
 
 QSize EntryEdit::minimumSizeHint() const {
-    constexpr int fewestShown = 12;
+    constexpr int fewestShown = 8;
     const QSize hint = sizeHint();
     const int fewest = QLineEdit::minimumSizeHint().width() + fontMetrics().horizontalAdvance(u'0') * fewestShown;
     return {std::min(hint.width(), fewest), hint.height()};

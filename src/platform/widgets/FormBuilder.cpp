@@ -85,6 +85,7 @@ FormBuilder& FormBuilder::column(int weight) {
     auto* inside = new QVBoxLayout(widget);
     inside->setContentsMargins(0, 0, 0, 0);
     inside->setSpacing(spacing::group);
+    inside->setAlignment(Qt::AlignTop);
     columns_->addColumn(widget, weight);
     column_ = inside;
     return *this;
@@ -99,7 +100,7 @@ FormBuilder& FormBuilder::frame(const QString& title, int pairs) {
     for (int pair = 0; pair < pairs; ++pair) grid_->setColumnStretch(2 * pair + 1, 1);
     pairs_ = pairs;
     line_ = pair_ = 0;
-    wide_ = false;
+    span_ = 1;
     column_->addWidget(box);
     return *this;
 }
@@ -109,8 +110,8 @@ FormBuilder& FormBuilder::row() {
     return *this;
 }
 
-FormBuilder& FormBuilder::wide() {
-    wide_ = true;
+FormBuilder& FormBuilder::span(int pairs) {
+    span_ = pairs;
     return *this;
 }
 
@@ -138,7 +139,7 @@ QLabel* FormBuilder::place(QWidget* widget, const QString& caption, QWidget* bud
         last_ = widget;
         return label;
     }
-    if (pair_ >= pairs_) row();
+    if (pair_ + span_ > pairs_) row();
     if (!caption.isEmpty()) {
         label = new QLabel(caption);
         label->setBuddy(buddy);
@@ -146,11 +147,12 @@ QLabel* FormBuilder::place(QWidget* widget, const QString& caption, QWidget* bud
         label->setContentsMargins(pair_ > 0 ? spacing::group - spacing::label : 0, qobject_cast<CommentBox*>(widget) ? 4 : 0, 0, 0);
         grid_->addWidget(label, line_, 2 * pair_);
     }
-    const int span = wide_ ? 2 * (pairs_ - pair_) - 1 : 1;
     const bool own = widget->sizePolicy().horizontalPolicy() == QSizePolicy::Maximum;
-    grid_->addWidget(widget, line_, 2 * pair_ + 1, 1, span, own ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment());
-    pair_ = wide_ ? pairs_ : pair_ + 1;
-    wide_ = false;
+    const int before = caption.isEmpty() ? 0 : 1;  // without a caption its place belongs to the widget too
+    if (before == 0) widget->setContentsMargins(pair_ > 0 ? spacing::group - spacing::label : 0, 0, 0, 0);
+    grid_->addWidget(widget, line_, 2 * pair_ + before, 1, 2 * span_ - before, own ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment());
+    pair_ += span_;
+    span_ = 1;
     if (last_) QWidget::setTabOrder(last_, buddy ? buddy : widget);
     last_ = buddy ? buddy : widget;
     return label;
@@ -256,8 +258,8 @@ FormBuilder& FormBuilder::choice(const QString& name, const QString& caption, Bi
 
 FormBuilder& FormBuilder::date(const QString& name, const QString& caption, DateBinding value) {
     auto* editor = new DateBox;
-    editor->setShownCharacters(14);
-    keepWidth(editor, 14);
+    editor->setShownCharacters(11);
+    keepWidth(editor, 11);
     named(editor, name, caption);
     QLabel* label = place(editor, caption, editor);
     form_->addField({.name = name,
@@ -303,7 +305,7 @@ FormBuilder& FormBuilder::comments(const QString& name, const QString& caption, 
     editor->setLimits(std::move(filter), value.maxLength);
     editor->setTabChangesFocus(true);
     named(editor, name, caption);
-    wide_ = true;
+    span_ = pairs_;
     add(name, editor, place(editor, caption, editor), value, [editor](const QString& text) { editor->setText(text); });
     QObject::connect(editor, &CommentBox::edited, form_, [form = form_, name](const QString& text) { form->edit(name, text); });
     return *this;

@@ -33,8 +33,8 @@ public:
     FormBuilder& frame(const QString& title, int pairs = 2);
     /// The next field begins a new line.
     FormBuilder& row();
-    /// The next field takes the rest of its line.
-    FormBuilder& wide();
+    /// The next field takes the room of so many pairs.
+    FormBuilder& span(int pairs);
 
     FormBuilder& text(const QString& name, const QString& caption, Binding value, KeyFilter filter = {});
     FormBuilder& masked(const QString& name, const QString& caption, const QString& mask, Binding value);
@@ -73,7 +73,7 @@ private:
     int pairs_ = 2;
     int line_ = 0;
     int pair_ = 0;
-    bool wide_ = false;
+    int span_ = 1;
     QBoxLayout* together_ = nullptr;
     int togetherLeft_ = 0;
     QWidget* last_ = nullptr;
