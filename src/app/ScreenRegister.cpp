@@ -1,5 +1,6 @@
 #include "app/ScreenRegister.h"
 
+#include "reports/frmReports.h"
 #include "setup/frmSetup.h"
 #include "shell/EmptyScreen.h"
 #include "shell/Program.h"
@@ -14,6 +15,7 @@ void registerScreens(Program& program) {
         const QString name = screen.name;
         screens.addScreen(name, [&program, name] { return std::make_unique<EmptyScreen>(program, name); });
     }
+    screens.addScreen("frmReports", [&program] { return std::make_unique<frmReports>(program); });
     screens.addScreen("frmSetup", [&program] { return std::make_unique<frmSetup>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
