@@ -1,6 +1,7 @@
 #include "app/ScreenRegister.h"
 
 #include "registration/frmRegister.h"
+#include "reports/frmReports.h"
 #include "setup/frmSetup.h"
 #include "shell/EmptyScreen.h"
 #include "shell/Program.h"
@@ -16,6 +17,7 @@ void registerScreens(Program& program) {
         screens.addScreen(name, [&program, name] { return std::make_unique<EmptyScreen>(program, name); });
     }
     screens.addScreen("frmRegister", [&program] { return std::make_unique<frmRegister>(program); });
+    screens.addScreen("frmReports", [&program] { return std::make_unique<frmReports>(program); });
     screens.addScreen("frmSetup", [&program] { return std::make_unique<frmSetup>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
