@@ -1,7 +1,7 @@
 # Sourced by run, test and bench: installs the Debian packages that are missing and builds a preset.
 
 kestrel_packages() {
-    local wanted=(g++ cmake ninja-build ccache qt6-base-dev libqt6svg6-dev libsqlite3-dev libzip-dev
+    local wanted=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libsqlite3-dev libzip-dev
         libgtest-dev libbenchmark-dev sqlite3 poppler-utils xvfb xauth
         libgl1-mesa-dev libxkbcommon-dev fonts-dejavu-core fonts-liberation fonts-comic-neue fonts-droid-fallback)
     local missing=()

@@ -106,7 +106,8 @@ void EquipmentMaker::addItems() {
     const int teams = static_cast<int>(std::min<qsizetype>(league_.teams.size(), mostTeams));
     static constexpr const char* conditions[] = {"New", "Good", "Good", "Fair"};
     const auto add = [&](const Item& item, bool deleted) {
-        const QDate bought = league_.day(2, 1).addYears(-chance_.below(4)).addDays(chance_.below(40));
+        const QDate year = league_.day(2, 1).addYears(-chance_.below(4));
+        const QDate bought = league_.upToToday(year.addDays(chance_.below(40)));
         const bool insured = item.cost > 500;
         return rows.add({{"ItemName", item.name},
                          {"Description", item.description},

@@ -68,6 +68,9 @@ void makeSampleLeague(const QString& path, const SampleOptions& options) {
     const SampleOptions wanted = sample::checked(options);
     if (QFileInfo::exists(path))
         throw datafile::Error(datafile::Fault::State, QString("The file %1 exists already.").arg(path));
+    const QString folder = QFileInfo(path).absolutePath();
+    if (!QFileInfo(folder).isDir())
+        throw datafile::Error(datafile::Fault::NotFound, QString("There is no folder %1.").arg(folder));
     const QString made = files::temporaryName(path);
     try {
         makeBaseFile(made);
