@@ -231,8 +231,8 @@ void Recordset::movePrevious() {
 
 void Recordset::findFirst(const QString& criteria) {
     refreshAfterReplacement();
-    if (type_ == Type::Snapshot) throw Error(Fault::State, tr("A snapshot cannot be searched."));
     const dialect::Shape shape = dialect::shapeOf(criteria);
+    if (type_ == Type::Snapshot) return findInSnapshot(shape);
     QString& statement = findSql_[shape.text];
     if (statement.isEmpty())
         statement = keyQuery(dialect::translate(shape.text, [this](const QString& name) { return connection_->table(name); }, query_.table),
@@ -243,6 +243,28 @@ void Recordset::findFirst(const QString& criteria) {
     mode_ = EditMode::None;
     sequentialMoves_ = 0;
     standOn(find.number(0));
+}
+
+/// The rows as they were when the snapshot was taken are searched, in a table that lives no longer than this call.
+void Recordset::findInSnapshot(const dialect::Shape& shape) {
+    QStringList columns;
+    QStringList marks;
+    for (int i = 0; i < fieldCount(); ++i) {
+        const bool repeated = fieldByName_.value(fieldName(i).toLower()) != i;
+        columns << sql::identifier(repeated ? fieldName(i) + u' ' + QString::number(i) : fieldName(i)) + QStringLiteral(" COLLATE NOCASE");
+        marks << QStringLiteral("?");
+    }
+    Statement(*connection_, QStringLiteral("DROP TABLE IF EXISTS temp.searched")).run();
+    Statement(*connection_, QStringLiteral("CREATE TEMP TABLE searched (%1)").arg(columns.join(u','))).run();
+    {
+        const QString add = QStringLiteral("INSERT INTO searched VALUES (%1)").arg(marks.join(u','));
+        for (const Values& row : snapshot_) Statement(*connection_, add).bind(row).run();
+        const QString wanted = dialect::translate(shape.text, [this](const QString& name) { return connection_->table(name); });
+        Statement find(*connection_, QStringLiteral("SELECT rowid FROM searched WHERE %1 LIMIT 1").arg(wanted));
+        noMatch_ = !find.bind(shape.values).step();
+        if (!noMatch_) standOn(find.number(0)), position_ = static_cast<int>(current_) - 1;
+    }
+    Statement(*connection_, QStringLiteral("DROP TABLE temp.searched")).run();
 }
 
 int Recordset::recordCount() {

@@ -34,7 +34,7 @@ public:
     void movePrevious();
 
     /// Stands on the first row that meets the criteria ("DivName = ""Minors"" AND DeletedFlag = False"), by an index
-    /// where there is one. Without a match the current row stays and noMatch() is true. Dynasets only.
+    /// where there is one. Without a match the current row stays and noMatch() is true.
     void findFirst(const QString& criteria);
     bool noMatch() const { return noMatch_; }
 
@@ -91,6 +91,7 @@ private:
     void open();
     void refreshAfterReplacement();
     void describe();
+    void findInSnapshot(const dialect::Shape& shape);
     void takeKeys();
     void standOn(qint64 key);
     int position();

@@ -100,6 +100,24 @@ TEST_F(DataFileTest, CursorMovesFindsAndKeepsItsPlace) {
     EXPECT_EQ(divisions.recordCount(), 2);
 }
 
+TEST_F(DataFileTest, SnapshotStaysAsItWasAndCanBeSearched) {
+    addDivision("Minors");
+    addPlayer("Smith", "Zoe", QDate(2011, 12, 3));
+    addPlayer("Smith", "Al", QDate(2012, 1, 1));
+    Recordset joined = database.openRecordset("SELECT tblPlayer.*, tblDivision.* FROM tblPlayer, tblDivision WHERE "
+                                              "tblPlayer![DivisionId] = tblDivision![DivisionId] ORDER BY [FirstName]");
+    database.execute("DELETE FROM tblPlayer");
+    EXPECT_EQ(joined.recordCount(), 2);
+    joined.findFirst("LastName = \"smith\" AND BirthDate = #12-3-2011#");
+    ASSERT_FALSE(joined.noMatch());
+    EXPECT_EQ(joined.text("FirstName"), "Zoe");
+    EXPECT_EQ(joined.absolutePosition(), 1);
+    joined.findFirst("FirstName = \"Bob\"");
+    EXPECT_TRUE(joined.noMatch());
+    EXPECT_EQ(joined.text("DivName"), "Minors");
+    EXPECT_EQ(faultOf([&] { joined.edit(); }), Fault::State);
+}
+
 TEST_F(DataFileTest, EmptyTableHasNoCurrentRecord) {
     Recordset divisions = database.openRecordset("tblDivision");
     EXPECT_TRUE(divisions.bof() && divisions.eof());
