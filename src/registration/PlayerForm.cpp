@@ -12,6 +12,10 @@ Form* PlayerPane::buildForm() {
     addPersonalFrame(builder.column(3));
     addFeeFrame(builder);
     addLeagueFrame(builder.column(2));
+    addParentsTab(builder);
+    addSchoolTab(builder);
+    addMedicalTab(builder);
+    addCustomTab(builder);
     form->setDateFormat(program().globals().defaultDateFormat);
     connect(form, &Form::left, this, &PlayerPane::showBalance);
     return form;
@@ -69,7 +73,7 @@ void PlayerPane::addLeagueFrame(FormBuilder& builder) {
         .text("txtPlayerTryoutNumber", tr("&Tryout Number"), player.PlayerTryoutNumber, FilterNumeric)
         .span(2).choice("cboPlayerDivision", tr("&Division"),
                 Binding([this] { return divisionName_; }, [this](const QString& name) { chooseDivision(name); }, 30),
-                lookup("SELECT [DivName] FROM tblDivision WHERE [DeletedFlag] = False ORDER BY [DivName]", "DivName"))
+                liveNames("tblDivision", "DivName"))
         .span(2).shown("lblPlayerTeamName", tr("Team Name"), [this] { return teamName_; })
         .span(2).text("txtPlayerRegistrationNumber", tr("Registration Nbr"), player.PlayerRegistrationNumber, FilterTextFull)
         .check("chkPlayerActive", tr("Acti&ve?"), player.PlayerActive)
@@ -87,6 +91,6 @@ void PlayerPane::addFeeFrame(FormBuilder& builder) {
         .row()
         .money("mskedPlayerAmountPaid", tr("A&mt. Paid"), player.PlayerAmountPaid)
         .choice("cboPlayerHowFeePaid", tr("How Fee Paid?"), player.PlayerHowFeePaid,
-                lookup("SELECT [HowFeePaidText] from tblHowFeePaid WHERE [DeletedFlag] = False ORDER BY [HowFeePaidText]", "HowFeePaidText"))
+                liveNames("tblHowFeePaid", "HowFeePaidText"))
         .shown("lblPlayerBalance", tr("Balance Due"), [] { return Money().text(); }, 10);
 }

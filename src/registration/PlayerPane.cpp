@@ -3,12 +3,21 @@
 #include "platform/text/Dates.h"
 #include "platform/text/Money.h"
 #include "platform/text/Numbers.h"
+#include "platform/widgets/ChoiceBox.h"
 #include "platform/widgets/Form.h"
+#include "setup/clsSchoolName.h"
 #include "shell/Program.h"
 #include "store/AgeRule.h"
 #include "store/Lookup.h"
 
 #include <QLabel>
+
+namespace {
+
+/// Nothing typed, or the untouched mask of a phone.
+bool isBlank(const Text& text) { return text().trimmed().isEmpty() || text().trimmed() == u"-"; }
+
+}  // namespace
 
 PlayerPane::PlayerPane(Program& program)
     : RecordPane(program, {.tag = "Player",
@@ -24,6 +33,12 @@ PlayerPane::PlayerPane(Program& program)
       player_(program.store),
       division_(program.store) {
     start(player_, buildForm());
+    showCustomLabels();
+}
+
+void PlayerPane::refresh() {
+    RecordPane::refresh();
+    showCustomLabels();
 }
 
 bool PlayerPane::find(const QString& entry) { return player_.FindPlayerRecord(entry, false, true) && !player_.PlayerDeletedFlag; }
@@ -112,15 +127,49 @@ std::vector<Finding> PlayerPane::check() const {
                  {player_.PlayerPhone, "mskedPlayerPhone", tr("The Phone Number is a required entry.")}};
     std::vector<Finding> findings;
     for (const auto& rule : rules) {
-        const bool blank = rule.value().trimmed().isEmpty() || rule.value().trimmed() == u"-";
-        if (blank) findings.push_back({rule.field, rule.text});
+        if (isBlank(rule.value)) findings.push_back({rule.field, rule.text});
         if (&rule.value == &player_.PlayerFirstName && !player_.PlayerBirthDate().isValid())
             findings.push_back({QStringLiteral("dtpPlayerBirthDate"), tr("The Players Birth Date is a required entry.")});
     }
+    const struct {
+        const Text& lastName;
+        const Text& firstName;
+        const Text& phone;
+        const char* field;
+        QString text;
+    } guardians[] = {{player_.PlayerMomLastName, player_.PlayerMomFirstName, player_.PlayerMomPhone, "mskedPlayerMomPhone",
+                      tr("    - Guardian 2 does not have a phone number.")},
+                     {player_.PlayerDadLastName, player_.PlayerDadFirstName, player_.PlayerDadPhone, "mskedPlayerDadPhone",
+                      tr("    - Guardian 1 does not have a phone number.")}};
+    for (const auto& guardian : guardians)
+        if (guardian.lastName.isFilled() && guardian.firstName.isFilled() && isBlank(guardian.phone))
+            findings.push_back({guardian.field, tr("Don't forget to enter a phone number for the guardian.") + u'\n' + guardian.text});
     return findings;
 }
 
-bool PlayerPane::write() { return settleIdentity() && RecordPane::write(); }
+bool PlayerPane::write() {
+    if (!settleIdentity()) return false;
+    settleSchool();
+    return RecordPane::write();
+}
+
+/// A school that the league does not know yet is added, or not kept with the player.
+void PlayerPane::settleSchool() {
+    const QString name = player_.PlayerSchoolName;
+    clsSchoolName school(program().store);
+    if (name.isEmpty() || school.FindSchoolRecord(name, false, false)) return;
+    const bool add = program().dialogs().ask(tr("Add New School Name?"), tr("The School Name entered was not\nfound in the School database file.\n\n"
+                                                                            "Would you like to add this School Name to \nthe database file?  \n"
+                                                                            "Note:  If you answer No, the School Name\nwill not be saved with the Player record."));
+    if (!add) {
+        player_.PlayerSchoolName = QString();
+        return;
+    }
+    school.NewSchoolRecord();
+    school.SchoolName = name;
+    school.SaveSchoolRecord();
+    form().findChild<ChoiceBox*>(QStringLiteral("cboPlayerSchoolName"))->setEntries(liveNames("tblSchoolInfo", "SchoolName"));
+}
 
 QString PlayerPane::deleteQuestion() const { return tr("Are you sure you want to delete player %1?").arg(name()); }
 

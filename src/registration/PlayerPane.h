@@ -22,8 +22,17 @@ private:
     void addPersonalFrame(FormBuilder& builder);
     void addLeagueFrame(FormBuilder& builder);
     void addFeeFrame(FormBuilder& builder);
+    // Its further tabs (PlayerFormTabs.cpp).
+    void addParentsTab(FormBuilder& builder);
+    void addSchoolTab(FormBuilder& builder);
+    void addMedicalTab(FormBuilder& builder);
+    void addCustomTab(FormBuilder& builder);
+    void showCustomLabels();
+    /// The live entries of a lookup table, in order.
+    QStringList liveNames(const char* table, const char* column);
     QStringList lookup(const QString& query, const QString& column);
 
+    void refresh() override;
     bool find(const QString& entry) override;
     QString name() const override { return key().text(); }
     QString unsavedName() const override { return player_.PlayerLastName(); }
@@ -37,6 +46,7 @@ private:
     void shown() override;
 
     PlayerKey key() const { return {player_.PlayerLastName(), player_.PlayerFirstName(), player_.PlayerBirthDate()}; }
+    void settleSchool();
     void setDefaults();
     void chooseDivision(const QString& name);
     void showAge();

@@ -50,14 +50,19 @@ QWidget* FormBuilder::scrolled(QScrollArea* area) {
 
 /// What the form or one of its tabs shows: columns, in an area that scrolls when the window is too small.
 void FormBuilder::page(QWidget* content) {
-    auto* layout = new QVBoxLayout(content);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(spacing::group);
-    columns_ = new ColumnRow(content);
-    layout->addWidget(columns_);
-    layout->addStretch(1);
+    page_ = new QVBoxLayout(content);
+    page_->setContentsMargins(0, 0, 0, 0);
+    page_->setSpacing(spacing::group);
+    page_->addStretch(1);
+    below();
+}
+
+FormBuilder& FormBuilder::below() {
+    columns_ = new ColumnRow(page_->parentWidget());
+    page_->insertWidget(page_->count() - 1, columns_);
     column_ = nullptr;
     form_->addPage(columns_);
+    return *this;
 }
 
 FormBuilder& FormBuilder::tab(const QString& title) {

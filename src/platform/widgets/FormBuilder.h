@@ -29,6 +29,8 @@ public:
     FormBuilder& tab(const QString& title);
     /// Begins a column beside the one before.
     FormBuilder& column(int weight = 1);
+    /// What follows stands below all columns so far, over the whole width.
+    FormBuilder& below();
     /// Begins a frame with so many pairs of caption and field on a line. Without a title it is only a group.
     FormBuilder& frame(const QString& title, int pairs = 2);
     /// The next field begins a new line.
@@ -67,6 +69,7 @@ private:
 
     Form* form_;
     QTabWidget* tabs_ = nullptr;
+    QBoxLayout* page_ = nullptr;
     ColumnRow* columns_ = nullptr;
     QBoxLayout* column_ = nullptr;
     QGridLayout* grid_ = nullptr;

@@ -1,0 +1,167 @@
+#include "platform/text/KeyFilters.h"
+#include "platform/widgets/FormBuilder.h"
+#include "registration/PlayerPane.h"
+#include "setup/clsOptions.h"
+#include "shell/Bound.h"
+#include "shell/Program.h"
+#include "shell/Screens.h"
+
+#include <QPushButton>
+
+// The player form behind its first tab.
+
+namespace {
+
+/// Yes is choice 0, as the row keeps it.
+FlagBinding yesIsZero(Whole& choice) {
+    return {[&choice] { return choice == 0; }, [&choice](bool yes) { choice = yes ? 0 : 1; }};
+}
+
+/// A grade is kept in two letters: "PK", "Co", "K", "7".
+QString shownGrade(const QString& kept) {
+    if (kept == u"PK") return QStringLiteral("Pre-K");
+    if (kept == u"CO" || kept == u"Co") return QStringLiteral("College");
+    return kept;
+}
+
+QString keptGrade(const QString& shown) { return shown == u"Pre-K" ? QStringLiteral("PK") : shown.left(2); }
+
+QStringList grades() {
+    QStringList list{QStringLiteral("Pre-K"), QStringLiteral("K")};
+    for (int grade = 1; grade <= 12; ++grade) list << QString::number(grade);
+    return list << QStringLiteral("College");
+}
+
+struct Parent {
+    const char* who;  ///< in the names of boxes
+    const char* relationshipBox;
+    Text& relationship;
+    Text& lastName;
+    Text& firstName;
+    Text& phoneArea;
+    Text& phone;
+    Text& workArea;
+    Text& work;
+    Text& mobileArea;
+    Text& mobile;
+    Text& email;
+    Whole& volunteer;
+};
+
+}  // namespace
+
+QStringList PlayerPane::liveNames(const char* table, const char* column) {
+    return lookup(QStringLiteral("SELECT [%2] FROM %1 WHERE [DeletedFlag] = False ORDER BY [%2]").arg(QLatin1String(table), QLatin1String(column)),
+                  QLatin1String(column));
+}
+
+void PlayerPane::addParentsTab(FormBuilder& builder) {
+    clsRegistration& p = player_;
+    const Parent parents[] = {
+        {"Dad", "cboPlayerGuardian1Relationship", p.PlayerGuardian1Relationship, p.PlayerDadLastName, p.PlayerDadFirstName, p.PlayerDadPhoneArea,
+         p.PlayerDadPhone, p.PlayerDadWorkPhoneArea, p.PlayerDadWorkPhone, p.PlayerDadMobilePhoneArea, p.PlayerDadMobilePhone, p.PlayerDadEmail,
+         p.PlayerDadVolunteer},
+        {"Mom", "cboPlayerGuardian2Relationship", p.PlayerGuardian2Relationship, p.PlayerMomLastName, p.PlayerMomFirstName, p.PlayerMomPhoneArea,
+         p.PlayerMomPhone, p.PlayerMomWorkPhoneArea, p.PlayerMomWorkPhone, p.PlayerMomMobilePhoneArea, p.PlayerMomMobilePhone, p.PlayerMomEmail,
+         p.PlayerMomVolunteer}};
+    builder.tab(tr("Parent Info."));
+    int number = 0;
+    for (const Parent& parent : parents) {
+        const auto named = [&parent](const char* pattern) { return QString::fromLatin1(pattern).arg(QLatin1String(parent.who)); };
+        builder.column()
+            .frame(tr("Parent %1").arg(++number), 1)
+            .choice(parent.relationshipBox, tr("Relationship"), parent.relationship, {"Mother", "Father", "Legal Guardian"})
+            .text(named("txtPlayer%1LastName"), tr("Last Name"), parent.lastName, FilterTextFull)
+            .text(named("txtPlayer%1FirstName"), tr("First Name"), parent.firstName, FilterTextFull)
+            .phone(named("mskedPlayer%1PhoneArea"), named("mskedPlayer%1Phone"), tr("Home Phone"), parent.phoneArea, parent.phone)
+            .phone(named("mskedPlayer%1WorkPhoneArea"), named("mskedPlayer%1WorkPhone"), tr("Work Phone"), parent.workArea, parent.work)
+            .phone(named("mskedPlayer%1MobilePhoneArea"), named("mskedPlayer%1MobilePhone"), tr("Mobile Phone"), parent.mobileArea, parent.mobile)
+            .text(named("txtPlayer%1Email"), tr("Email Address"), parent.email, FilterTextFull)
+            .yesNo(named("optPlayer%1Volunteer"), tr("Volunteer?"), yesIsZero(parent.volunteer));
+    }
+}
+
+void PlayerPane::addSchoolTab(FormBuilder& builder) {
+    clsRegistration& p = player_;
+    builder.tab(tr("School/Uniform"))
+        .column()
+        .frame(tr("School Information"), 1)
+        .choice("cboPlayerSchoolName", tr("School"), p.PlayerSchoolName, liveNames("tblSchoolInfo", "SchoolName"),
+                ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
+        .choice("cboPlayerGradeLevel", tr("Grade:"),
+                Binding([&p] { return shownGrade(p.PlayerGradeLevel); }, [&p](const QString& grade) { p.PlayerGradeLevel = keptGrade(grade); }, 7), grades())
+        .frame({}, 1)
+        .comments("txtPlayerComments", tr("Comments"), p.PlayerComments, FilterTextWide)
+        .column()
+        .frame(tr("Uniform Information"), 1)
+        .choice("cboPlayerShirtSize", tr("Shirt Size"), p.PlayerShirtSize, liveNames("tblShirtSize", "ShirtSizeText"))
+        .choice("cboPlayerPantSize", tr("Pants Size"), p.PlayerPantSize, liveNames("tblPantSize", "PantSizeText"))
+        .choice("cboPlayerHatSize", tr("Hat Size"), p.PlayerHatSize, liveNames("tblHatSize", "HatSizeText"))
+        .choice("cboPlayerShoeSize", tr("Shoe Size"), p.PlayerShoeSize, liveNames("tblShoeSize", "ShoeSizeText"))
+        .text("txtPlayerJerseyNumber", tr("Jersey Number:"), p.PlayerJerseyNumber, FilterTextFull)
+        .check("chkPlayerBeltedPants", tr("Pants include Belt?"), p.PlayerBeltedPants);
+}
+
+void PlayerPane::addMedicalTab(FormBuilder& builder) {
+    clsRegistration& p = player_;
+    builder.tab(tr("Medical"))
+        .column()
+        .frame(tr("Doctor and Hospital"), 1)
+        .text("txtPlayerDoctorName", tr("Doctor's Name"), p.PlayerDoctorName, FilterTextFull)
+        .phone("mskedPlayerDoctorPhoneArea", "mskedPlayerDoctorPhone", tr("Doctor's Phone"), p.PlayerDoctorPhoneArea, p.PlayerDoctorPhone)
+        .text("txtPlayerDentistName", tr("Dentist's Name"), p.PlayerDentistName, FilterTextFull)
+        .phone("mskedPlayerDentistPhoneArea", "mskedPlayerDentistPhone", tr("Dentist's Phone"), p.PlayerDentistPhoneArea, p.PlayerDentistPhone)
+        .text("txtPlayerHospitalName", tr("Hospital Preference"), p.PlayerHospitalName, FilterTextFull)
+        .column()
+        .frame(tr("Emergency and Insurance"), 1)
+        .text("txtPlayerEmergencyContactName", tr("Emergency Contact Name"), p.PlayerEmergencyContactName, FilterTextFull)
+        .text("txtPlayerEmergencyContactRelationship", tr("Emergency Contact Relationship"), p.PlayerEmergencyContactRelationship, FilterTextFull)
+        .phone("mskedPlayerEmergencyPhoneArea", "mskedPlayerEmergencyPhone", tr("Emergency Contact Phone"), p.PlayerEmergencyPhoneArea, p.PlayerEmergencyPhone)
+        .choice("cboPlayerInsuranceCarrier", tr("Insurance Carrier"), p.PlayerInsuranceCarrier, liveNames("tblInsurance", "InsCompanyName"),
+                ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
+        .text("txtPlayerInsPolicyNumber", tr("Insurance Policy Number"), p.PlayerInsPolicyNumber, FilterTextFull)
+        .check("chkPlayerMedicalForm", tr("Emergency Medical Authorization form signed?"), p.PlayerMedicalForm)
+        .below()
+        .frame(tr("Comments: allergies, medications, special conditions, etc"), 1)
+        .comments("txtPlayerMedicalComments", {}, p.PlayerMedicalComments, FilterTextWide);
+}
+
+void PlayerPane::addCustomTab(FormBuilder& builder) {
+    clsRegistration& p = player_;
+    Text* const fields[] = {&p.PlayerCustomField1, &p.PlayerCustomField2, &p.PlayerCustomField3,
+                            &p.PlayerCustomField4, &p.PlayerCustomField5, &p.PlayerCustomField6};
+    builder.tab(tr("Custom Fields")).column(3).frame(tr("Custom Fields"), 1);
+    int number = 0;
+    for (Text* field : fields) {
+        ++number;
+        builder.text(QStringLiteral("txtPlayerCustomField%1").arg(number), tr("Custom Field Label %1").arg(number), *field, FilterTextFull);
+    }
+    auto* define = new QPushButton(tr("&Define Custom Field Labels"));
+    define->setObjectName(QStringLiteral("cmdDefineCustomFieldLabels"));
+    define->setAutoDefault(false);
+    define->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    connect(define, &QPushButton::clicked, this, [this] {
+        program().screens.show(QStringLiteral("frmOptions"));
+        showCustomLabels();
+    });
+    builder.custom(define)
+        .column(2)
+        .frame(tr("With Respect to the Player..."), 1)
+        .check("chkPlayerSendInvitation", tr("Send Invitation to the Team Web Site?"), p.PlayerSendInvitation)
+        .check("chkPlayerParentApproval", tr("Parent Approval for the Team Web Site?"), p.PlayerParentApproval)
+        .check("chkPlayerPhotoOptIn", tr("Photo Opt In?"), p.PlayerPhotoOptIn)
+        .text("txtPlayerLarkfoldMemberId", tr("Member Id"), p.PlayerLarkfoldMemberId, FilterTextFull);
+}
+
+/// Custom fields stand under the label that the league gave them, or the default one.
+void PlayerPane::showCustomLabels() {
+    const DefaultsRecord defaults(program().store);
+    const Text* const labels[] = {&defaults.RegCustomFieldLabel1, &defaults.RegCustomFieldLabel2, &defaults.RegCustomFieldLabel3,
+                                  &defaults.RegCustomFieldLabel4, &defaults.RegCustomFieldLabel5, &defaults.RegCustomFieldLabel6};
+    int number = 0;
+    for (const Text* label : labels) {
+        ++number;
+        form().setCaption(QStringLiteral("txtPlayerCustomField%1").arg(number),
+                          (*label)().isEmpty() ? tr("Custom Field Label %1").arg(number) : (*label)());
+    }
+}
