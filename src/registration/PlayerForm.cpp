@@ -38,26 +38,26 @@ void PlayerPane::addPersonalFrame(FormBuilder& builder) {
                        own.size());
     };
     builder.frame(tr("Player Personal Information"), 3)
-        .text("txtPlayerLastName", tr("&Last Name *"), shared(player.PlayerLastName, player.PlayerDadLastName, player.PlayerMomLastName), FilterTextFull)
-        .text("txtPlayerFirstName", tr("&First Name *"), player.PlayerFirstName, FilterTextFull)
+        .text("txtPlayerLastName", tr("Last N&ame *"), shared(player.PlayerLastName, player.PlayerDadLastName, player.PlayerMomLastName), FilterTextFull)
+        .text("txtPlayerFirstName", tr("First Name *"), player.PlayerFirstName, FilterTextFull)
         .text("txtPlayerMiddleInitial", tr("Initial"), player.PlayerMiddleInitial, FilterTextFull)
-        .span(2).text("txtPlayerAddress1", tr("Street &Address 1 *"), player.PlayerAddress1, FilterTextWide)
+        .span(2).text("txtPlayerAddress1", tr("Street Address 1 *"), player.PlayerAddress1, FilterTextWide)
         .text("txtPlayerAddress2", tr("Apt. Number"), player.PlayerAddress2, FilterTextWide)
         .text("txtPlayerCity", tr("City  *"), player.PlayerCity, FilterTextFull)
         .choice("cboPlayerStateId", tr("St./Prov.*"), player.PlayerStateId, lookup("SELECT [StateId] from tblState ORDER BY [StateId]", "StateId"),
                 ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
         .text("txtPlayerPostalCode", tr("&Zip/Postal *"), player.PlayerPostalCode, FilterTextFull)
         .choice("cboPlayerCountryCode", tr("Country"), player.PlayerCountryCode, {"Canada", "USA"}, ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
-        .span(2).phone("mskedPlayerPhoneArea", "mskedPlayerPhone", tr("&Home Phone *"),
+        .span(2).phone("mskedPlayerPhoneArea", "mskedPlayerPhone", tr("Home Phone *"),
                shared(player.PlayerPhoneArea, player.PlayerDadPhoneArea, player.PlayerMomPhoneArea),
                shared(player.PlayerPhone, player.PlayerDadPhone, player.PlayerMomPhone))
-        .span(3).text("txtPlayerEmailAddress", tr("&Email Address"), player.PlayerEmailAddress, FilterTextFull)
+        .span(3).text("txtPlayerEmailAddress", tr("Email Address"), player.PlayerEmailAddress, FilterTextFull)
         .date("dtpPlayerBirthDate", tr("&Birth Date *"), {[&player] { return player.PlayerBirthDate(); }, [this](const QDate& date) {
                                                               player_.PlayerBirthDate = date;
                                                               showAge();
                                                           }})
         .shown("lblPlayerAge", tr("Age"), [&player] { return player.PlayerAge(); }, 4)
-        .choice("cboPlayerGender", tr("Gende&r"), player.PlayerGender, {"Male", "Female"})
+        .choice("cboPlayerGender", tr("&Gender"), player.PlayerGender, {"Male", "Female"})
         .text("txtPlayerHeight", tr("Height"), player.PlayerHeight, FilterNumeric)
         .text("txtPlayerWeight", tr("Weight"), player.PlayerWeight, FilterNumeric)
         .text("txtPlayerYearsExperience", tr("Exp."), player.PlayerYearsExperience, FilterNumeric)
@@ -69,14 +69,14 @@ void PlayerPane::addPersonalFrame(FormBuilder& builder) {
 void PlayerPane::addLeagueFrame(FormBuilder& builder) {
     clsRegistration& player = player_;
     builder.frame(tr("League Use"))
-        .date("dtpPlayerRegistrationDate", tr("Re&g Date"), player.PlayerRegistrationDate)
-        .text("txtPlayerTryoutNumber", tr("&Tryout Number"), player.PlayerTryoutNumber, FilterNumeric)
-        .span(2).choice("cboPlayerDivision", tr("&Division"),
+        .date("dtpPlayerRegistrationDate", tr("Reg Date"), player.PlayerRegistrationDate)
+        .text("txtPlayerTryoutNumber", tr("Tryout Number"), player.PlayerTryoutNumber, FilterNumeric)
+        .span(2).choice("cboPlayerDivision", tr("Division"),
                 Binding([this] { return divisionName_; }, [this](const QString& name) { chooseDivision(name); }, 30),
                 liveNames("tblDivision", "DivName"))
         .span(2).shown("lblPlayerTeamName", tr("Team Name"), [this] { return teamName_; })
         .span(2).text("txtPlayerRegistrationNumber", tr("Registration Nbr"), player.PlayerRegistrationNumber, FilterTextFull)
-        .check("chkPlayerActive", tr("Acti&ve?"), player.PlayerActive)
+        .check("chkPlayerActive", tr("Active?"), player.PlayerActive)
         .check("chkPlayerIsUmpire", tr("Umpire?"), player.PlayerIsUmpire)
         .check("chkPlayerIdCheck", tr("Residency Checked?"), player.PlayerIdCheck)
         .check("chkPlayerBirthCertificateChecked", tr("Birth Cert. Checked?"), player.PlayerBirthCertificateChecked);

@@ -136,7 +136,7 @@ void PlayerPane::addCustomTab(FormBuilder& builder) {
         ++number;
         builder.text(QStringLiteral("txtPlayerCustomField%1").arg(number), tr("Custom Field Label %1").arg(number), *field, FilterTextFull);
     }
-    auto* define = new QPushButton(tr("&Define Custom Field Labels"));
+    auto* define = new QPushButton(tr("Define Custom Field La&bels"));
     define->setObjectName(QStringLiteral("cmdDefineCustomFieldLabels"));
     define->setAutoDefault(false);
     define->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);

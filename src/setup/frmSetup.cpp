@@ -19,7 +19,7 @@ frmSetup::frmSetup(Program& program) : RecordScreen(program, QStringLiteral("frm
                   .missingText = tr("Error!  Certfication Name not found in Search List")},
          .find = &clsCertifications::FindCertRecord,
          .key = &clsCertifications::CertName,
-         .boxes = {{"txtCertName", tr("Certification &Name *"), &clsCertifications::CertName,
+         .boxes = {{"txtCertName", tr("Certification N&ame *"), &clsCertifications::CertName,
                     tr("The Certification Name is a required entry.")},
                    {"txtCertOrg", tr("Certifying Or&ganization *"), &clsCertifications::CertOrg,
                     tr("The Certifying Organization is a required entry.")},
@@ -37,7 +37,7 @@ frmSetup::frmSetup(Program& program) : RecordScreen(program, QStringLiteral("frm
                            .missingText = tr("Error!  School Name not found in Search List")},
                   .find = &clsSchoolName::FindSchoolRecord,
                   .key = &clsSchoolName::SchoolName,
-                  .boxes = {{"txtSchoolName", tr("School &Name *"), &clsSchoolName::SchoolName,
+                  .boxes = {{"txtSchoolName", tr("School N&ame *"), &clsSchoolName::SchoolName,
                              tr("The School Name is a required entry.")},
                             {"txtSchoolComments", tr("Co&mments"), &clsSchoolName::SchoolComments, {}, true}}}));
 }

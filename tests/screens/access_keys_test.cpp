@@ -1,0 +1,53 @@
+#include "shell/ScreenTable.h"
+#include "support/Printing.h"
+#include "support/RunningProgram.h"
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QTabWidget>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Everything in view that answers to Alt and a letter, as "letter: what".
+QStringList accessKeys(Screen& screen) {
+    QStringList keys;
+    const auto note = [&keys](const QString& text) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (!key.isEmpty()) keys << key.toString() + QStringLiteral(": ") + text;
+    };
+    for (const QLabel* label : screen.findChildren<QLabel*>())
+        if (label->isVisible() && label->buddy()) note(label->text());
+    for (const QAbstractButton* button : screen.findChildren<QAbstractButton*>())
+        if (button->isVisible() && !button->inherits("QToolButton")) note(button->text());
+    for (const QGroupBox* group : screen.findChildren<QGroupBox*>())
+        if (group->isVisible()) note(group->title());
+    for (const QAction* menu : screen.menuBar()->actions()) note(menu->text());
+    keys.sort();
+    return keys;
+}
+
+void expectNoTwoAlike(Screen& screen, const QString& where) {
+    const QStringList keys = accessKeys(screen);
+    for (qsizetype i = 1; i < keys.size(); ++i)
+        EXPECT_NE(keys[i].section(u':', 0, 0), keys[i - 1].section(u':', 0, 0))
+            << where.toStdString() << ": " << keys[i - 1].toStdString() << " and " << keys[i].toStdString();
+}
+
+TEST(AccessKeysTest, NoTwoOnAPageAreAlike) {
+    RunningProgram running;
+    for (const ScreenEntry& entry : screenTable) {
+        Screen* screen = running.open(QString(entry.name).toLatin1());
+        const auto tabs = screen->findChildren<QTabWidget*>();
+        expectNoTwoAlike(*screen, entry.name);
+        for (QTabWidget* each : tabs)
+            for (int tab = 0; tab < each->count(); ++tab) {
+                each->setCurrentIndex(tab);
+                if (each->isVisible()) expectNoTwoAlike(*screen, QString(entry.name) + u' ' + each->tabText(tab));
+            }
+    }
+}
+
+}  // namespace
