@@ -55,6 +55,12 @@ QRadioButton* addRadio(QButtonGroup* group, int id, const QString& name, const Q
     return button;
 }
 
+/// Tab reaches the selected button of a group and no other. Qt sees to that only where the selection changes by key.
+void putTabStop(const QButtonGroup& group) {
+    for (QAbstractButton* button : group.buttons())
+        button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 /// A button for what comes later says so.
 void setOffered(QWidget* button, bool offered, const QString& otherwise) {
     button->setEnabled(offered);
@@ -70,17 +76,21 @@ frmReports::frmReports(Program& program)
       optionButtons_(new QButtonGroup(this)),
       destinationButtons_(new QButtonGroup(this)) {
     auto* content = new QWidget;
-    auto* grid = new QGridLayout(content);
-    grid->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
-    grid->setSpacing(spacing::group);
-    grid->addWidget(makeCategories(), 0, 0, 2, 1);
-    grid->addWidget(makeOptions(), 0, 1);
-    grid->addWidget(makeLists(), 1, 1);
-    grid->addWidget(makeDestinations(), 2, 0, 1, 2);
-    grid->addLayout(makeButtons(), 3, 0, 1, 2);
-    grid->setRowStretch(0, 1);
-    grid->setColumnStretch(0, 2);
-    grid->setColumnStretch(1, 3);
+    auto* columns = new ColumnRow(content);
+    columns->addColumn(makeCategories(), 2);
+    auto* choice = new QWidget;
+    auto* choiceColumn = new QVBoxLayout(choice);
+    choiceColumn->setContentsMargins({});
+    choiceColumn->setSpacing(spacing::group);
+    choiceColumn->addWidget(makeOptions(), 1);
+    choiceColumn->addWidget(makeLists());
+    columns->addColumn(choice, 3);
+    auto* whole = new QVBoxLayout(content);
+    whole->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
+    whole->setSpacing(spacing::group);
+    whole->addWidget(columns, 1);
+    whole->addWidget(makeDestinations());
+    whole->addLayout(makeButtons());
     auto* view = new QScrollArea;  // for a desktop smaller than the screen
     view->setFrameShape(QFrame::NoFrame);
     view->setWidgetResizable(true);
@@ -210,6 +220,8 @@ void frmReports::showCategory() {
         selected = selected || exists;
     }
     optionButtons_->setExclusive(true);
+    putTabStop(*categoryButtons_);
+    putTabStop(*optionButtons_);
     nothingToRun_->setVisible(options.empty());
     labelOptions_->setVisible(categoryButtons_->checkedId() == mailingLabels);
     showOption();
@@ -218,6 +230,7 @@ void frmReports::showCategory() {
 void frmReports::showOption() { print_->setEnabled(chosen() != nullptr); }
 
 void frmReports::showDestination() {
+    putTabStop(*destinationButtons_);
     for (const DestinationEntry& entry : destinations)
         if (entry.number == destinationButtons_->checkedId()) print_->setText(tr(entry.button));
 }
