@@ -85,17 +85,21 @@ frmReports::frmReports(Program& program)
     choiceColumn->addWidget(makeOptions(), 1);
     choiceColumn->addWidget(makeLists());
     columns->addColumn(choice, 3);
-    auto* whole = new QVBoxLayout(content);
-    whole->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
-    whole->setSpacing(spacing::group);
-    whole->addWidget(columns, 1);
-    whole->addWidget(makeDestinations());
-    whole->addLayout(makeButtons());
-    auto* view = new QScrollArea;  // for a desktop smaller than the screen
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, 0);
+    column->setSpacing(spacing::group);
+    column->addWidget(columns, 1);
+    column->addWidget(makeDestinations());
+    auto* view = new QScrollArea;  // for a desktop smaller than the screen; the buttons stay in sight
     view->setFrameShape(QFrame::NoFrame);
     view->setWidgetResizable(true);
     view->setWidget(content);
-    setCentralWidget(view);
+    auto* whole = new QWidget;
+    auto* wholeColumn = new QVBoxLayout(whole);
+    wholeColumn->setContentsMargins({});
+    wholeColumn->addWidget(view, 1);
+    wholeColumn->addLayout(makeButtons());
+    setCentralWidget(whole);
 
     connect(categoryButtons_, &QButtonGroup::idClicked, this, &frmReports::showCategory);
     connect(optionButtons_, &QButtonGroup::idClicked, this, &frmReports::showOption);
@@ -178,6 +182,7 @@ QWidget* frmReports::makeDestinations() {
 
 QLayout* frmReports::makeButtons() {
     auto* row = new QHBoxLayout;
+    row->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
     row->addStretch(1);
     print_ = addButton(row, "cmdPrint", {}, &frmReports::run);
     addButton(row, "cmdPrintSetup", tr("Print &Setup"), &frmReports::setUpPrinter);
