@@ -25,7 +25,7 @@ Form::Kept* Form::find(const QString& name) {
     return found == fields_.end() ? nullptr : &*found;
 }
 
-void Form::show(Kept& field, const QVariant& value) {
+void Form::fill(Kept& field, const QVariant& value) {
     const QScopedValueRollback loading(loading_, true);
     field.display(value);
     field.shown = value;
@@ -35,12 +35,12 @@ void Form::show(Kept& field, const QVariant& value) {
 void Form::refresh() {
     for (Kept& field : fields_) {
         field.recorded = field.read();
-        show(field, field.recorded);
+        fill(field, field.recorded);
     }
 }
 
 void Form::display(const QString& name, const QVariant& value) {
-    if (Kept* field = find(name)) show(*field, value);
+    if (Kept* field = find(name)) fill(*field, value);
 }
 
 void Form::edit(const QString& name, const QVariant& value) {
@@ -55,7 +55,7 @@ void Form::edit(const QString& name, const QVariant& value) {
         if (other.name == name) continue;
         if (const QVariant now = other.read(); now != other.recorded) {
             other.recorded = now;
-            show(other, now);
+            fill(other, now);
         }
     }
 }
@@ -63,7 +63,7 @@ void Form::edit(const QString& name, const QVariant& value) {
 void Form::leave(const QString& name) {
     // The field shows its value in the form it is kept in: a date in full, money with its cents.
     if (Kept* field = find(name); field && field->edited && (!field->isReadable || field->isReadable()))
-        show(*field, field->read());
+        fill(*field, field->read());
     Q_EMIT left(name);
 }
 

@@ -67,7 +67,7 @@ private:
     };
 
     Kept* find(const QString& name);
-    void show(Kept& field, const QVariant& value);
+    void fill(Kept& field, const QVariant& value);
     void leave(const QString& name);
 
     std::vector<Kept> fields_;
