@@ -1,9 +1,7 @@
 #pragma once
 
-#include "app/ScreenRegister.h"
+#include "app/ProgramParts.h"
 #include "setup/clsOptions.h"
-#include "shell/Program.h"
-#include "shell/Screens.h"
 #include "support/LeagueFile.h"
 #include "support/MemorySettings.h"
 
@@ -14,10 +12,7 @@
 
 /// The whole program over a new league, its boxes answered from a script: what a test of a screen or a journey needs.
 struct RunningProgram {
-    RunningProgram() {
-        loadGlobals(league.context);
-        registerScreens(program);
-    }
+    RunningProgram() { loadGlobals(league.context); }
 
     /// Opens a screen and waits until it stands.
     Screen* open(const char* name) {
@@ -29,8 +24,9 @@ struct RunningProgram {
 
     LeagueFile league;
     MemorySettings settings;
-    Screens screens{league.dialogs, QLatin1String(navigatorName)};
-    Program program{league.context, settings, screens, league.folder.path(), league.folder.path()};
+    ProgramParts parts{league.context, settings, league.folder.path(), league.folder.path()};
+    Screens& screens = parts.screens();
+    Program& program = parts.program();
 };
 
 /// A control by its object name; fails the test when there is none.

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/ProgramParts.h"
+#include "tour/Guide.h"
+
+/// From the first start to the printed list: a child is registered and found again, a school added, the list of the
+/// active players previewed and saved.
+class Tour {
+public:
+    /// The PDF is written to this path.
+    Tour(ProgramParts& parts, Guide& guide, QString pdf);
+    void take();
+
+private:
+    void start();
+    void openRegistration();
+    void startChild();
+    void fillChild();
+    void saveChild();
+    void findChild();
+    void addSchool();
+    void previewList();
+    void saveList();
+    void exit();
+
+    void search(const QString& text);
+
+    ProgramParts& parts_;
+    Guide& guide_;
+    QString pdf_;
+};
