@@ -8,28 +8,33 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+static void registerSeed() { Q_INIT_RESOURCE(seed); }
+
 namespace {
 
-void addSeedRows(const datafile::Database& database) {
+QJsonObject baseTables() {
+    registerSeed();
     QFile seed(QStringLiteral(":/seed/base_rows.json"));
     if (!seed.open(QIODevice::ReadOnly)) throw datafile::Error(datafile::Fault::NotFound, QStringLiteral("The program's base rows are missing."));
-    const QJsonObject tables = QJsonDocument::fromJson(seed.readAll()).object();
-    for (auto table = tables.begin(); table != tables.end(); ++table) {
-        datafile::Recordset rows = database.openRecordset(table.key());
-        for (const QJsonValue& row : table.value().toArray()) {
-            rows.addNew();
-            const QJsonObject columns = row.toObject();
-            for (auto column = columns.begin(); column != columns.end(); ++column)
-                rows.set(column.key(), datafile::Value{column.value().toString()});
-            rows.update();
-        }
-    }
+    return QJsonDocument::fromJson(seed.readAll()).object();
 }
 
 }  // namespace
 
+void addBaseRows(const datafile::Database& database, const QString& table, const std::function<bool(const BaseRow&)>& wanted) {
+    datafile::Recordset rows = database.openRecordset(table);
+    for (const QJsonValue& value : baseTables().value(table).toArray()) {
+        const QVariantMap columns = value.toObject().toVariantMap();
+        BaseRow row;
+        for (auto column = columns.begin(); column != columns.end(); ++column) row.insert(column.key(), column.value().toString());
+        if (wanted && !wanted(row)) continue;
+        rows.addNew();
+        for (auto column = row.begin(); column != row.end(); ++column) rows.set(column.key(), datafile::Value{column.value()});
+        rows.update();
+    }
+}
+
 void makeBaseFile(const QString& path) {
-    Q_INIT_RESOURCE(seed);
     const QString made = files::temporaryName(path);
     try {
         {
@@ -37,7 +42,7 @@ void makeBaseFile(const QString& path) {
             const datafile::Database database = workspace.createDatabase(made);
             datafile::Transaction transaction(database, datafile::Transaction::Kind::Schema);
             for (const datafile::TableDef& table : schema::tables()) database.createTable(table);
-            addSeedRows(database);
+            for (const QString& table : baseTables().keys()) addBaseRows(database, table);
             datafile::Recordset version = database.openRecordset(QStringLiteral("tblVersion"));
             version.addNew();
             version.set(QStringLiteral("DBVersion"), datafile::Value{GetCurrentDBVersion()});

@@ -1,33 +1,79 @@
 #include "store/CorrectVersion.h"
 
+#include "store/Housekeeping.h"
 #include "store/Journal.h"
 #include "store/Schema.h"
+#include "store/UpgradeRun.h"
 
-#include <QCoreApplication>
+#include <optional>
+
+using datafile::Database;
+using datafile::Recordset;
 
 namespace {
 
 constexpr char journalModule[] = "UpdateFunctions";
 constexpr char safetySuffix[] = ".BKM";
+constexpr char versionTable[] = "tblVersion";
+constexpr char versionColumn[] = "DBVersion";
+constexpr char firstVersion[] = "Version 1.0";
+constexpr char firstSeason[] = "2000";
 
-void emptyWorkTables(const datafile::Database& database) {
+/// The work tables mean nothing between two starts. The fee report's came with a later version.
+void emptyWorkTables(StoreContext& context, const Database& database) {
+    DeleteRecords(context, TempResults);
+    DeleteRecords(context, TempSearchList);
+    if (database.table(QStringLiteral("tblTempFeeReport"))) DeleteRecords(context, TempFeeReport);
+}
+
+/// The number behind "Version 1." of a file older than the program; nothing for any other text, which counts as current.
+std::optional<int> olderVersion(const QString& text) {
+    for (int version = 0; version <= upgradeSteps().last().lastVersion; ++version)
+        if (text == QStringLiteral("Version 1.%1").arg(version)) return version;
+    return {};
+}
+
+/// A file of the first versions may come without a version.
+QString versionOf(const Database& database) {
+    const QString name = QString::fromLatin1(versionTable);
+    if (!database.table(name))
+        for (const datafile::TableDef& table : schema::tables())
+            if (table.name == name) database.createTable(table);
+    Recordset rows = database.openRecordset(name);
+    return rows.eof() ? QString::fromLatin1(firstVersion) : rows.text(QLatin1String(versionColumn));
+}
+
+void writeVersion(const Database& database, const QString& version) {
+    Recordset rows = database.openRecordset(QLatin1String(versionTable));
+    if (rows.eof()) rows.addNew();
+    else rows.edit();
+    rows.set(QLatin1String(versionColumn), datafile::Value{version});
+    rows.update();
+}
+
+/// What a file of the first version gets beyond its step. Until all is done its version says that it is not.
+void beginFirstVersion(const Database& database) {
     datafile::Transaction transaction(database);
-    for (const char* table : {"tblTempResults", "tblTempSearchList", "tblTempFeeReport"})
-        if (database.table(table)) database.execute(QStringLiteral("DELETE FROM [%1]").arg(QLatin1String(table)));
+    writeVersion(database, QString::fromLatin1(firstVersion));
+    Recordset options = database.openRecordset(QStringLiteral("tblOptions"));
+    if (!options.eof()) {
+        options.edit();
+        options.set(QStringLiteral("CurrentSeasonYear"), datafile::Value{QString::fromLatin1(firstSeason)});
+        options.update();
+    }
     transaction.commit();
 }
 
-QString versionOf(const datafile::Database& database) {
-    if (!database.table("tblVersion")) return QStringLiteral("Version 1.0");
-    datafile::Recordset version = database.openRecordset("tblVersion");
-    return version.eof() ? QStringLiteral("Version 1.0") : version.text("DBVersion");
-}
-
-/// A version before the program's own; any other text counts as current.
-bool isOlder(const QString& version) {
-    for (int step = 0; step < 39; ++step)
-        if (version == QStringLiteral("Version 1.%1").arg(step)) return true;
-    return false;
+void upgrade(StoreContext& context, const Database& database, int version) {
+    for (const UpgradeStep& step : upgradeSteps()) {
+        if (step.lastVersion < version) continue;
+        runUpgradeStep(step, context, database);
+        if (step.lastVersion == 0) beginFirstVersion(database);
+    }
+    finishUpgrade(database);
+    writeVersion(database, GetCurrentDBVersion());
+    ClearUpgradeWork(context);
+    CompactDataFile(context);
 }
 
 }  // namespace
@@ -44,13 +90,11 @@ bool MakeSafetyCopy(StoreContext& context) {
 
 bool CorrectVersion(StoreContext& context) {
     try {
-        const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
-        emptyWorkTables(database);
+        const Database database = context.workspace.openDatabase(context.dataFilePath);
+        emptyWorkTables(context, database);
         MakeSafetyCopy(context);
-        const QString version = versionOf(database);
-        if (!isOlder(version)) return true;
-        throw datafile::Error(datafile::Fault::State,
-                              QCoreApplication::translate("store", "The data file is at \"%1\"; this program needs \"%2\".").arg(version, GetCurrentDBVersion()));
+        if (const std::optional<int> version = olderVersion(versionOf(database))) upgrade(context, database, *version);
+        return true;
     } catch (const datafile::Error& error) {
         WriteJournal(context.clock, context.dialogs, QLatin1String(journalModule), QStringLiteral("CorrectVersion"), error.text());
         return false;

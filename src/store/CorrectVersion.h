@@ -4,7 +4,9 @@
 
 /// Brings the data file to the program's version before anything else opens it, and leaves a copy of it as it was
 /// beside it, with ".BKM" in the place of the last four characters of its name. The work tables are empty afterwards.
-/// False when the file could not be brought up to date; the user has been told then.
+/// An older file runs every step from its version on, gets the form of a new one, its new version, and is compacted;
+/// an unknown version passes as current. False when that could not be done; the user has been told then. The version is
+/// written last, so that the next start begins again from the old one.
 bool CorrectVersion(StoreContext& context);
 
 /// Copies the data file beside itself as ".BKM". A failure is reported and false.

@@ -271,6 +271,33 @@ void Connection::forgetSchema() {
     namesKnown_ = false;
 }
 
+/// The engine's own way of adding a column reads all rows of a table with rules, for each column anew.
+void Connection::rewriteDefinition(const QString& table, const QString& text) {
+    const auto run = [this](const QString& pragma) {
+        const int code = sqlite3_exec(handle_, QString(QStringLiteral("PRAGMA ") + pragma).toUtf8().constData(), nullptr, nullptr, nullptr);
+        if (code != SQLITE_OK) raise(sqlite3_extended_errcode(handle_), pragma);
+    };
+    const auto protect = [this](int on) { sqlite3_db_config(handle_, SQLITE_DBCONFIG_DEFENSIVE, on, nullptr); };
+    protect(0);
+    try {
+        run(QStringLiteral("writable_schema = ON"));
+        Statement(*this, QStringLiteral("UPDATE sqlite_schema SET sql = ? WHERE type = 'table' AND name = ?"))
+            .bind(Value{text})
+            .bind(Value{table})
+            .run();
+        Statement version(*this, QStringLiteral("PRAGMA schema_version"));
+        version.step();
+        run(QStringLiteral("schema_version = %1").arg(version.number(0) + 1));
+    } catch (...) {
+        sqlite3_exec(handle_, "PRAGMA writable_schema = OFF", nullptr, nullptr, nullptr);
+        protect(1);
+        throw;
+    }
+    forgetSchema();
+    protect(1);
+    run(QStringLiteral("writable_schema = RESET"));
+}
+
 const TableDef* Connection::table(const QString& name) {
     tableNames();
     const auto found = tables_.find(name.toLower());

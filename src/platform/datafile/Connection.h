@@ -66,6 +66,9 @@ public:
     const TableDef* table(const QString& name);
     QStringList tableNames();
     void forgetSchema();
+    /// Puts `text`, a CREATE TABLE that adds columns behind those of the table, in the place of the table's own. Its rows
+    /// stay as they are. Within a transaction.
+    void rewriteDefinition(const QString& table, const QString& text);
 
     /// Closes the file, lets `between` do its work on it, and opens it again.
     template <class Work>

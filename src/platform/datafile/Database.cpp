@@ -4,6 +4,7 @@
 #include "platform/datafile/TableSql.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 
 namespace datafile {
 
@@ -65,6 +66,7 @@ TableDef Database::need(const QString& table) const {
 }
 
 void Database::createTable(const TableDef& table) const {
+    if (connection_->table(table.name)) throw Error(Fault::Statement, tr("There is a table %1 already.").arg(table.name));
     Transaction transaction(*this, Transaction::Kind::Schema);
     Statement(*connection_, sql::createTable(table)).run();
     for (const IndexDef& index : table.indexes) Statement(*connection_, sql::createIndex(table.name, index)).run();
@@ -73,22 +75,27 @@ void Database::createTable(const TableDef& table) const {
 }
 
 void Database::deleteTable(const QString& name) const {
+    const QString table = need(name).name;
     Transaction transaction(*this, Transaction::Kind::Schema);
-    Statement(*connection_, QStringLiteral("DROP TABLE ") + sql::identifier(need(name).name)).run();
+    Statement(*connection_, QStringLiteral("DROP TABLE ") + sql::identifier(table)).run();
     transaction.commit();
     connection_->forgetSchema();
 }
 
-void Database::addField(const QString& table, const FieldDef& field) const {
+void Database::addFields(const QString& table, const QList<FieldDef>& fields) const {
     const TableDef from = need(table);
-    if (from.field(field.name)) throw Error(Fault::Statement, tr("The table %1 has a column %2 already.").arg(table, field.name));
-    const bool plain = (!field.hasDefault || field.type == ColumnType::Boolean) && !field.required && field.type != ColumnType::AutoKey;
-    if (plain) {
-        return changeSchema(QStringLiteral("ALTER TABLE %1 ADD COLUMN %2").arg(sql::identifier(from.name), sql::column(field)));
-    }
     TableDef to = from;
-    to.fields << field;
-    rebuild(from, to);
+    bool plain = true;
+    for (const FieldDef& field : fields) {
+        if (to.field(field.name)) throw Error(Fault::Statement, tr("The table %1 has a column %2 already.").arg(table, field.name));
+        const bool flag = field.type == ColumnType::Boolean;
+        plain = plain && (flag || (!field.hasDefault && !field.required)) && field.type != ColumnType::AutoKey;
+        to.fields << field;
+    }
+    if (!plain) return rebuild(from, to);
+    Transaction transaction(*this, Transaction::Kind::Schema);
+    connection_->rewriteDefinition(from.name, sql::createTable(to));
+    transaction.commit();
 }
 
 void Database::deleteField(const QString& table, const QString& field) const {
@@ -101,20 +108,7 @@ void Database::deleteField(const QString& table, const QString& field) const {
     rebuild(from, to);
 }
 
-void Database::changeField(const QString& table, const FieldDef& field) const {
-    const TableDef from = need(table);
-    TableDef to = from;
-    bool found = false;
-    for (FieldDef& each : to.fields) {
-        if (!sameName(each.name, field.name)) continue;
-        const QString name = each.name;
-        each = field;
-        each.name = name;
-        found = true;
-    }
-    if (!found) throw Error(Fault::Statement, tr("The table %1 has no column %2.").arg(table, field.name));
-    rebuild(from, to);
-}
+void Database::changeTable(const TableDef& to) const { rebuild(need(to.name), to); }
 
 void Database::addIndex(const QString& table, const IndexDef& index) const {
     changeSchema(sql::createIndex(need(table).name, index));
@@ -127,21 +121,6 @@ void Database::deleteIndex(const QString& table, const QString& index) const {
 void Database::changeSchema(const QString& statement) const {
     connection_->write([&] { Statement(*connection_, statement).run(); });
     connection_->forgetSchema();
-}
-
-void Database::addRelation(const RelationDef& relation) const {
-    const TableDef from = need(relation.foreignTable);
-    TableDef to = from;
-    to.relations << relation;
-    rebuild(from, to);
-}
-
-void Database::deleteRelation(const QString& foreignTable, const QString& name) const {
-    const TableDef from = need(foreignTable);
-    TableDef to = from;
-    if (to.relations.removeIf([&](const RelationDef& each) { return sameName(each.name, name); }) == 0)
-        throw Error(Fault::Statement, tr("There is no relation %1.").arg(name));
-    rebuild(from, to);
 }
 
 /// The file's engine changes a column by making the table anew: new table, rows over, old one away, indexes again.
@@ -157,14 +136,18 @@ void Database::rebuild(const TableDef& from, const TableDef& to) const {
         columns << sql::identifier(field.name);
         values << (isNew ? QStringLiteral("NULL") : columns.last());
     }
-    const QStringList statements{
+    QStringList statements{
         sql::createTable(made),
         QStringLiteral("INSERT INTO %1 (%2) SELECT %3 FROM %4")
-            .arg(sql::identifier(made.name), columns.join(u','), values.join(u','), sql::identifier(from.name)),
-        QStringLiteral("DROP TABLE ") + sql::identifier(from.name),
-        QStringLiteral("PRAGMA legacy_alter_table = ON"),
-        QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(sql::identifier(made.name), sql::identifier(to.name)),
-        QStringLiteral("PRAGMA legacy_alter_table = OFF")};
+            .arg(sql::identifier(made.name), columns.join(u','), values.join(u','), sql::identifier(from.name))};
+    const auto isKey = [](const FieldDef& field) { return field.type == ColumnType::AutoKey; };
+    if (std::any_of(to.fields.begin(), to.fields.end(), isKey))  // a key that was given out is never given out again
+        statements << QStringLiteral("DELETE FROM sqlite_sequence WHERE name = ") + sql::literal(made.name)
+                   << QStringLiteral("INSERT INTO sqlite_sequence SELECT %1, seq FROM sqlite_sequence WHERE name = %2")
+                          .arg(sql::literal(made.name), sql::literal(from.name));
+    statements << QStringLiteral("DROP TABLE ") + sql::identifier(from.name) << QStringLiteral("PRAGMA legacy_alter_table = ON")
+               << QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(sql::identifier(made.name), sql::identifier(to.name))
+               << QStringLiteral("PRAGMA legacy_alter_table = OFF");
     for (const QString& statement : statements) Statement(*connection_, statement).run();
     for (const IndexDef& index : to.indexes) Statement(*connection_, sql::createIndex(to.name, index)).run();
     transaction.commit();

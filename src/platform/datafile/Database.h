@@ -34,15 +34,15 @@ public:
     const TableDef* table(const QString& name) const;
     void createTable(const TableDef& table) const;
     void deleteTable(const QString& name) const;
-    /// Old rows read nothing in the new column, or false in a flag.
-    void addField(const QString& table, const FieldDef& field) const;
+    /// Old rows read nothing in the new columns, or false in a flag. Columns that are not required and have no default
+    /// come without touching a row, however many rows there are.
+    void addFields(const QString& table, const QList<FieldDef>& fields) const;
     void deleteField(const QString& table, const QString& field) const;
-    /// Width, required, zero length, default or type of a column; its rows must meet the new rules.
-    void changeField(const QString& table, const FieldDef& field) const;
+    /// Gives the table of that name this definition: columns in its order, their rules, indexes and relations. Rows keep
+    /// what they hold in columns of the same name and must meet the new rules.
+    void changeTable(const TableDef& to) const;
     void addIndex(const QString& table, const IndexDef& index) const;
     void deleteIndex(const QString& table, const QString& index) const;
-    void addRelation(const RelationDef& relation) const;
-    void deleteRelation(const QString& foreignTable, const QString& name) const;
 
 private:
     friend class Transaction;

@@ -212,14 +212,14 @@ TEST_F(DataFileTest, ListsReadDisplayTextsFromTheIndexAlone) {
 
 TEST_F(DataFileTest, DefinitionsChangeAndKeepRowsAndRules) {
     addDivision("A");
-    database.addField("tblDivision", text("DivSport", 20));
-    database.addField("tblDivision", column("Umpires", ColumnType::Boolean));
+    database.addFields("tblDivision", {text("DivSport", 20), column("Umpires", ColumnType::Boolean)});
     FieldDef fee = text("Fee", 12);
     fee.hasDefault = true;
     fee.defaultValue = "$0.00";
-    database.addField("tblDivision", fee);
-    EXPECT_EQ(faultOf([&] { database.addField("tblDivision", fee); }), Fault::Statement);
+    database.addFields("tblDivision", {fee});
+    EXPECT_EQ(faultOf([&] { database.addFields("tblDivision", {fee}); }), Fault::Statement);
     Recordset old = database.openRecordset("tblDivision");
+    EXPECT_TRUE(isNull(old.value("DivSport")));
     EXPECT_TRUE(isNull(old.value("Fee")));
     EXPECT_FALSE(old.flag("Umpires"));
     EXPECT_FALSE(isNull(old.value("Umpires")));
@@ -229,7 +229,16 @@ TEST_F(DataFileTest, DefinitionsChangeAndKeepRowsAndRules) {
     EXPECT_EQ(added.text("Fee"), "$0.00");
     EXPECT_EQ(added.number("DivisionId"), 2);
 
-    database.changeField("tblDivision", {.name = "DivName", .size = 40});
+    database.execute("DELETE FROM tblDivision WHERE [DivisionId] = 2");
+    TableDef wider = *database.table("tblDivision");
+    wider.fields[1] = {.name = "DivName", .size = 40};
+    database.changeTable(wider);
+    Recordset third = database.openRecordset("tblDivision");
+    third.addNew();
+    third.set("DivName", QStringLiteral("C"));
+    third.update();
+    third.setBookmark(third.lastModified());
+    EXPECT_EQ(third.number("DivisionId"), 3) << "a key was given out a second time";
     database.execute("UPDATE tblDivision SET [DivName] = \"a name of more than ten characters\"");
     const TableDef* table = database.table("TBLDIVISION");
     ASSERT_TRUE(table);
