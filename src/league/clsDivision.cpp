@@ -22,16 +22,17 @@ void clsDivision::FindDivisionRecord(const QString& name, bool show, bool load, 
 }
 
 void clsDivision::FindDivisionMergeRecord(const QString& name, bool show, bool load, bool& found) {
-    found = findOrTell(matches("DivName", name), name, show, load, {findTitle, noneAvailable, "No Records found for %1."});
+    found =
+        findOrTell(matches("DivName", name), name, show, load, {findTitle, noneAvailable, "No Records found for %1."});
 }
 
 void clsDivision::FindDivisionRecordById(int id, bool show, bool load, bool& found) {
-    found = findOrTell(live(matches("DivisionId", id)), {}, show, load, {findTitle, "No Records found.", "No Records found."});
+    found =
+        findOrTell(live(matches("DivisionId", id)), {}, show, load, {findTitle, noneAvailable, "No Records found."});
 }
 
 bool clsDivision::TeamsAssignedToDivision(int divisionId) {
-    teams_.findFirst(matches("DivisionId", divisionId) + QStringLiteral(" AND DeletedFlag = False"));
-    if (teams_.noMatch()) return false;
+    if (!standOn(teams_, live(matches("DivisionId", divisionId)))) return false;
     TeamDateStamp = teams_.date("DateStamp");
     TeamTimeStamp = static_cast<int>(teams_.number("TimeStamp", 1));
     TeamDeletedFlag = teams_.flag("DeletedFlag");
@@ -47,20 +48,18 @@ void clsDivision::loadRating() {
 }
 
 void clsDivision::AddNewDifficultyRating(const QString& rating, const QString& comments) {
-    if (FindDeletedRatingRecord(rating)) ratings_.edit();
-    else ratings_.addNew();
+    if (FindDeletedRatingRecord(rating))
+        ratings_.edit();
+    else
+        ratings_.addNew();
     ratings_.set("DifficultyRatingText", rating);
     ratings_.set("Comments", comments);
-    ratings_.set("DateStamp", context().clock.today());
-    ratings_.set("TimeStamp", context().clock.secondsSinceMidnight());
-    ratings_.set("DeletedFlag", false);
-    ratings_.update();
-    ratings_.setBookmark(ratings_.lastModified());
+    updateStamped(ratings_, context().clock, false);
     loadRating();
 }
 
 bool clsDivision::FindDeletedRatingRecord(const QString& rating) {
-    ratings_.findFirst(matches("DifficultyRatingText", rating) + QStringLiteral(" AND DeletedFlag = True"));
-    if (!ratings_.noMatch()) loadRating();
-    return !ratings_.noMatch();
+    if (!standOn(ratings_, deleted(matches("DifficultyRatingText", rating)))) return false;
+    loadRating();
+    return true;
 }

@@ -11,46 +11,25 @@ clsCertifications::clsCertifications(StoreContext& context)
           .loadsDeleted = false});
 }
 
-bool clsCertifications::findLink(int volunteerId, int certificationId, bool deleted) {
-    links_.findFirst(matches("VolId", volunteerId) + QStringLiteral(" AND ") + matches("CertificationId", certificationId) +
-                     (deleted ? QStringLiteral(" AND DeletedFlag = True") : QStringLiteral(" AND DeletedFlag = False")));
-    return !links_.noMatch();
-}
-
-void clsCertifications::stampLink(bool deleted) {
-    links_.set("DateStamp", context().clock.today());
-    links_.set("TimeStamp", context().clock.secondsSinceMidnight());
-    links_.set("DeletedFlag", deleted);
-    links_.update();
-}
-
 bool clsCertifications::FindDeletedVolCertRecord(int volunteerId, int certificationId) {
-    return findLink(volunteerId, certificationId, true);
+    return standOn(links_, deleted(matches({{"VolId", volunteerId}, {"CertificationId", certificationId}})));
 }
 
 void clsCertifications::AddVolCertificationRecord(int volunteerId, int certificationId) {
-    if (findLink(volunteerId, certificationId, false)) return;
-    if (findLink(volunteerId, certificationId, true)) {
-        links_.edit();
-    } else {
-        links_.addNew();
-        links_.set("VolId", volunteerId);
-        links_.set("CertificationId", certificationId);
-    }
-    stampLink(false);
+    addOrRevive(links_, context().clock, {{"VolId", volunteerId}, {"CertificationId", certificationId}});
 }
 
 void clsCertifications::DeleteVolCertificationRecord(int volunteerId, int certificationId) {
-    if (!findLink(volunteerId, certificationId, false)) return;
-    links_.edit();
-    stampLink(true);
+    if (standOn(links_, live(matches({{"VolId", volunteerId}, {"CertificationId", certificationId}}))))
+        softDelete(links_, context().clock);
 }
 
 void clsCertifications::DeleteAllVolCertificationRecords(int certificationId) {
     datafile::Transaction transaction(database());
-    datafile::Recordset held = database().openRecordset("SELECT * from tblVolunteerCertifications "
-                                                        "WHERE tblVolunteerCertifications![CertificationId] = " +
-                                                        QString::number(certificationId));
+    datafile::Recordset held = database().openRecordset(
+        "SELECT * from tblVolunteerCertifications "
+        "WHERE tblVolunteerCertifications![CertificationId] = " +
+        QString::number(certificationId));
     softDeleteAll(held, context().clock);
     transaction.commit();
 }

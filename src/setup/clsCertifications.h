@@ -37,8 +37,5 @@ public:
     void DeleteAllVolCertificationRecords(int certificationId);
 
 private:
-    bool findLink(int volunteerId, int certificationId, bool deleted);
-    void stampLink(bool deleted);
-
     datafile::Recordset links_;
 };

@@ -99,7 +99,7 @@ public:
     Whole& operator=(const Whole& other) { return *this = other.value_; }
     operator int() const { return value_; }
     int operator()() const { return value_; }
-    bool isFilled() const override { return true; }
+    bool isFilled() const override { return value_ != 0; }
     void blank() override { value_ = rule_.blank; }
 
 private:

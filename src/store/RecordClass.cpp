@@ -11,11 +11,19 @@ constexpr char programName[] = "Kestrelmoor";
 }  // namespace
 
 QString live(const QString& criteria) { return QStringLiteral("DeletedFlag = False AND ") + criteria; }
+QString deleted(const QString& criteria) { return QStringLiteral("DeletedFlag = True AND ") + criteria; }
 QString matches(const char* column, const QString& text) {
     return QLatin1String(column) + QStringLiteral(" = ") + datafile::quoted(text);
 }
 QString matches(const char* column, int number) {
     return QLatin1String(column) + QStringLiteral(" = ") + QString::number(number);
+}
+
+QString matches(const ColumnValues& values) {
+    QStringList criteria;
+    for (const auto& [column, value] : values)
+        criteria << std::visit([name = column](const auto& wanted) { return matches(name, wanted); }, value);
+    return criteria.join(QStringLiteral(" AND "));
 }
 
 void RecordClass::open(RecordRules rules) {
@@ -95,8 +103,9 @@ QString RecordClass::errorText(quint32 number) const {
         return QStringLiteral("There are no records in the %1Enter Data and Press the Add key to add a new one.")
             .arg(QLatin1String(rules_.noRecords));
     const size_t required = number - firstRecordError - 2;
-    return required < rules_.required.size() ? QString::fromLatin1(rules_.required[required].message)
-                                             : QStringLiteral("There is no message for this error.");
+    const bool known = required < rules_.required.size() && rules_.required[required].column;
+    return known ? QString::fromLatin1(rules_.required[required].message)
+                 : QStringLiteral("There is no message for this error.");
 }
 
 void RecordClass::raise(quint32 number) const {
@@ -106,7 +115,7 @@ void RecordClass::raise(quint32 number) const {
 bool RecordClass::isValid(bool showError) const {
     for (size_t i = 0; i < rules_.required.size(); ++i) {
         const Required& rule = rules_.required[i];
-        if (!rule.raised || rule.column->isFilled()) continue;
+        if (!rule.column || !rule.raised || rule.column->isFilled()) continue;
         if (showError) raise(firstRecordError + 2 + static_cast<quint32>(i));
         return false;
     }
@@ -116,14 +125,16 @@ bool RecordClass::isValid(bool showError) const {
 void RecordClass::save(StampSource stamps) {
     if (!isChanged() || !isValid(false)) return;
     const bool adding = new_ || main_->recordCount() == 0;
-    beforeWrite(adding);
+    beforeWrite(adding, stamps);
     if (!adding) {
         main_->edit();
     } else {
         const QString twin = twinCriteria();
         const bool revive = !twin.isEmpty() && find(twin, false);
-        if (revive) main_->edit();
-        else main_->addNew();
+        if (revive)
+            main_->edit();
+        else
+            main_->addNew();
     }
     write(adding, stamps);
     main_->update();
@@ -146,25 +157,26 @@ void RecordClass::write(bool adding, StampSource stamps) {
             if (column) column->assigned_ = true;
     }
     for (Column* column : columns_)
-        if ((adding || column->assigned_) && !dynamic_cast<Key*>(column)) main_->set(column->field_, column->stored(adding));
+        if ((adding || column->assigned_) && !dynamic_cast<Key*>(column))
+            main_->set(column->field_, column->stored(adding));
 }
 
 QString RecordClass::twinCriteria() const {
     if (rules_.naturalKey.empty()) return {};
-    QString criteria = QStringLiteral("DeletedFlag = True");
-    for (const Text* column : rules_.naturalKey)
-        criteria += QStringLiteral(" AND ") + matches(column->name(), (*column)());
-    return criteria;
+    ColumnValues values;
+    for (const Text* column : rules_.naturalKey) values.emplace_back(column->name(), (*column)());
+    return deleted(matches(values));
 }
 
 void RecordClass::deleteRecord() {
     main_->edit();
-    main_->set(QStringLiteral("DateStamp"), context_.clock.today());
-    main_->set(QStringLiteral("TimeStamp"), context_.clock.secondsSinceMidnight());
-    main_->set(QStringLiteral("DeletedFlag"), true);
     whileDeleting(*main_);
-    main_->update();
+    updateStamped(*main_, context_.clock, true);
     clearFlags();
+    loadNeighbour();
+}
+
+void RecordClass::loadNeighbour() {
     if (main_->recordCount() == 1) return blank();
     main_->movePrevious();
     if (main_->bof()) main_->moveFirst();
@@ -184,7 +196,8 @@ bool RecordClass::find(const QString& criteria, bool loadRow) {
     return true;
 }
 
-bool RecordClass::findOrTell(const QString& criteria, const QString& name, bool show, bool loadRow, const FindTexts& texts) {
+bool RecordClass::findOrTell(const QString& criteria, const QString& name, bool show, bool loadRow,
+                             const FindTexts& texts) {
     const bool empty = main_->bof() && main_->eof();
     if (!empty && find(criteria, loadRow)) return true;
     if (show) {
@@ -223,7 +236,7 @@ bool RecordClass::findAnyByName(const QString& name, bool show, bool loadRow) {
 }
 
 bool RecordClass::findDeletedByName(const QString& name) {
-    return find(QStringLiteral("DeletedFlag = True AND ") + matches(rules_.naturalKey.front()->name(), name), false);
+    return find(deleted(matches(rules_.naturalKey.front()->name(), name)), false);
 }
 
 bool RecordClass::findById(const Key& key, int id, bool show, bool loadRow) {
@@ -231,12 +244,43 @@ bool RecordClass::findById(const Key& key, int id, bool show, bool loadRow) {
                       {notFoundTitle, "No Records found.", "No Records found."});
 }
 
-void softDeleteAll(Recordset& rows, Clock& clock) {
-    for (; !rows.eof(); rows.moveNext()) {
+bool standOn(Recordset& rows, const QString& criteria) {
+    rows.findFirst(criteria);
+    return !rows.noMatch();
+}
+
+void updateStamped(Recordset& row, Clock& clock, bool deleted) {
+    row.set(QStringLiteral("DateStamp"), clock.today());
+    row.set(QStringLiteral("TimeStamp"), clock.secondsSinceMidnight());
+    row.set(QStringLiteral("DeletedFlag"), deleted);
+    row.update();
+    if (row.bookmark() != row.lastModified()) row.setBookmark(row.lastModified());
+}
+
+void addOrRevive(Recordset& rows, Clock& clock, const ColumnValues& values) {
+    const QString criteria = matches(values);
+    if (standOn(rows, live(criteria))) return;
+    if (standOn(rows, deleted(criteria))) {
         rows.edit();
-        rows.set(QStringLiteral("DateStamp"), clock.today());
-        rows.set(QStringLiteral("TimeStamp"), clock.secondsSinceMidnight());
-        rows.set(QStringLiteral("DeletedFlag"), true);
-        rows.update();
+    } else {
+        rows.addNew();
+        for (const auto& [column, value] : values)
+            std::visit([&rows, name = QLatin1String(column)](const auto& each) { rows.set(name, each); }, value);
     }
+    updateStamped(rows, clock, false);
+}
+
+void softDelete(Recordset& row, Clock& clock) {
+    row.edit();
+    updateStamped(row, clock, true);
+}
+
+void softDeleteAll(Recordset& rows, Clock& clock) {
+    for (; !rows.eof(); rows.moveNext()) softDelete(rows, clock);
+}
+
+QString freshStamps(const Clock& clock) {
+    return QStringLiteral("[DateStamp] = %1, [TimeStamp] = %2")
+        .arg(datafile::quoted(clock.today()))
+        .arg(clock.secondsSinceMidnight());
 }

@@ -5,6 +5,7 @@
 
 #include <exception>
 #include <optional>
+#include <variant>
 
 /// What a record class raises when one of its rules is broken.
 class RecordError : public std::exception {
@@ -80,19 +81,20 @@ public:
     const std::vector<Column*>& columns() const { return columns_; }
 
 protected:
+    /// One without a column leaves its number out.
     struct Required {
-        const Column* column;
-        const char* message;
+        const Column* column = nullptr;
+        const char* message = nullptr;
         bool raised = true;  ///< false: has a number and a text, but is never tested
     };
     /// What is particular to a class.
     struct RecordRules {
-        const char* source;                                 ///< table or query of the main cursor
-        const char* tag;                                    ///< ".clsDiv", behind the program's name in an error
-        const char* noRecords;                              ///< "Division Table.  "
-        std::vector<Required> required{};                   ///< in order of their error numbers
-        std::vector<const Text*> naturalKey{};              ///< a soft-deleted row with the same is revived by an add
-        bool loadsDeleted = true;                           ///< false: a soft-deleted row shows as a blank record
+        const char* source;                     ///< table or query of the main cursor
+        const char* tag;                        ///< ".clsDiv", behind the program's name in an error
+        const char* noRecords;                  ///< "Division Table.  "
+        std::vector<Required> required{};       ///< in order of their error numbers
+        std::vector<const Text*> naturalKey{};  ///< a soft-deleted row with the same is revived by an add
+        bool loadsDeleted = true;               ///< false: a soft-deleted row shows as a blank record
         const char* badMove = "Invalid move operation.";
     };
     /// Title and texts of a find that speaks; "%1" is the name looked for.
@@ -102,7 +104,8 @@ protected:
         const char* onMiss;
     };
 
-    explicit RecordClass(StoreContext& context) : context_(context), database_(context.workspace.openDatabase(context.dataFilePath)) {}
+    explicit RecordClass(StoreContext& context)
+        : context_(context), database_(context.workspace.openDatabase(context.dataFilePath)) {}
     void open(RecordRules rules);
 
     StoreContext& context() const { return context_; }
@@ -122,17 +125,21 @@ protected:
     [[noreturn]] void raise(quint32 number) const;
     QString errorText(quint32 number) const;
 
+    /// Where a save takes the stamps and the deleted flag from: the clock, or the properties, as a merge does.
+    enum class StampSource { Fresh, Held };
     /// Called before a row is written; may assign properties.
-    virtual void beforeWrite(bool /*adding*/) {}
+    virtual void beforeWrite(bool /*adding*/, StampSource /*stamps*/) {}
     /// Called while the row is marked as deleted; may write further columns.
     virtual void whileDeleting(datafile::Recordset& /*row*/) {}
+    /// Called when the current row was marked as deleted: loads the row before it, or the first one; without another
+    /// row the properties are blank.
+    virtual void loadNeighbour();
     /// The criteria of the row that an add takes over; empty for none.
     virtual QString twinCriteria() const;
 
 private:
     friend class Column;
     friend class Day;
-    enum class StampSource { Fresh, Held };
 
     static Clock& clockOf(const Column& column) { return column.owner_->context_.clock; }
     void addColumn(Column* column) { columns_.push_back(column); }
@@ -151,10 +158,26 @@ private:
     bool new_ = false;
 };
 
-/// Marks every row of the cursor as deleted, with fresh stamps. The caller holds the transaction.
-void softDeleteAll(datafile::Recordset& rows, Clock& clock);
-
-/// Criteria texts. `live` adds that the row is not deleted.
+/// Criteria texts. `live` adds that the row is not deleted, `deleted` that it is.
 QString live(const QString& criteria);
+QString deleted(const QString& criteria);
 QString matches(const char* column, const QString& text);
 QString matches(const char* column, int number);
+/// Columns with the value that each is to have.
+using ColumnValues = std::vector<std::pair<const char*, std::variant<int, QString>>>;
+QString matches(const ColumnValues& values);
+
+// Rows of further tables, such as links, on a cursor of their own.
+
+/// Whether a row meets the criteria; the cursor then stands on it.
+bool standOn(datafile::Recordset& rows, const QString& criteria);
+/// Writes the row that is being edited or added, with fresh stamps.
+void updateStamped(datafile::Recordset& row, Clock& clock, bool deleted);
+/// Leaves the cursor on a live row of these values: one that is there, a deleted one that comes back, or a new one.
+void addOrRevive(datafile::Recordset& rows, Clock& clock, const ColumnValues& values);
+/// Marks the current row as deleted.
+void softDelete(datafile::Recordset& row, Clock& clock);
+/// Marks every row of the cursor as deleted. The caller holds the transaction.
+void softDeleteAll(datafile::Recordset& rows, Clock& clock);
+/// The stamps' part of an UPDATE of many rows.
+QString freshStamps(const Clock& clock);

@@ -153,6 +153,8 @@ TEST_F(RecordClassTest, FindsSpeakInTheirOwnWords) {
     league.dialogs.expectWarning("Find Division Record...", "There are no Division Records Available.");
     division.FindDivisionRecord("X", true, false, found);
     EXPECT_FALSE(found);
+    league.dialogs.expectWarning("Find Division Record...", "There are no Division Records Available.");
+    division.FindDivisionRecordById(1, true, false, found);
     addDivision("Minors");
     division.DivisionRequery();
     league.dialogs.expectWarning("Record Not Found...", "No Records found for X%1.");
@@ -169,7 +171,8 @@ TEST_F(RecordClassTest, FindsSpeakInTheirOwnWords) {
 TEST_F(RecordClassTest, DivisionAsksForItsTeamsAndAddsDifficultyRatings) {
     clsDivision division(league.context);
     EXPECT_FALSE(division.TeamsAssignedToDivision(1));
-    league.database().execute("INSERT INTO tblTeam ([TeamName], [DivisionId], [DeletedFlag]) VALUES (\"Owls\", 1, True)");
+    league.database().execute(
+        "INSERT INTO tblTeam ([TeamName], [DivisionId], [DeletedFlag]) VALUES (\"Owls\", 1, True)");
     EXPECT_FALSE(division.TeamsAssignedToDivision(1));
     league.database().execute("UPDATE tblTeam SET [DeletedFlag] = False");
     EXPECT_TRUE(division.TeamsAssignedToDivision(1));
@@ -202,9 +205,12 @@ TEST_F(RecordClassTest, PreferencesReachTheGlobalsWithTheirFallbacks) {
     EXPECT_EQ(league.context.globals.currentSeasonYear, "2026");
     EXPECT_EQ(league.context.globals.lastBackupDate, QDate(2026, 4, 22));
     EXPECT_EQ(league.context.globals.defaultDateFormat, "MM/dd/yy");
-    league.database().execute("UPDATE tblDefaults SET [DefaultPlayerFee] = \"lots\", [DefaultTeamFee] = \"$1,200.50\", [DefaultDateFormat] = \"\", "
-                              "[DefaultAgeCutoffMonth] = \"8\", [DefaultAgeCutoffDay] = \"x\"");
-    league.database().execute("UPDATE tblOptions SET [CurrentSeasonYear] = \"soon\", [ShowSplashScreen] = False, [LastBackupDate] = NULL");
+    league.database().execute(
+        "UPDATE tblDefaults SET [DefaultPlayerFee] = \"lots\", [DefaultTeamFee] = \"$1,200.50\", [DefaultDateFormat] = "
+        "\"\", "
+        "[DefaultAgeCutoffMonth] = \"8\", [DefaultAgeCutoffDay] = \"x\"");
+    league.database().execute(
+        "UPDATE tblOptions SET [CurrentSeasonYear] = \"soon\", [ShowSplashScreen] = False, [LastBackupDate] = NULL");
     loadGlobals(league.context);
     const Globals& globals = league.context.globals;
     EXPECT_EQ(globals.defaultPlayerFee, "0.00");
