@@ -7,8 +7,9 @@
 namespace {
 
 QString criteriaOf(const PlayerKey& key) {
-    QString criteria = matches("PlayerLastName", key.lastName) + QStringLiteral(" AND ") + matches("PlayerFirstName", key.firstName);
-    if (key.birthDate.isValid()) criteria += QStringLiteral(" AND PlayerBirthDate = ") + datafile::quoted(key.birthDate);
+    QString criteria = matches({{"PlayerLastName", key.lastName}, {"PlayerFirstName", key.firstName}});
+    if (key.birthDate.isValid())
+        criteria += QStringLiteral(" AND PlayerBirthDate = ") + datafile::quoted(key.birthDate);
     return criteria;
 }
 
@@ -25,7 +26,9 @@ PlayerKey PlayerKey::parse(const QString& text) {
     return {text.left(comma), text.mid(comma + 2), {}};
 }
 
-QString PlayerKey::text() const { return lastName + QStringLiteral(", ") + firstName + QStringLiteral(" - ") + shortDate(birthDate); }
+QString PlayerKey::text() const {
+    return lastName + QStringLiteral(", ") + firstName + QStringLiteral(" - ") + shortDate(birthDate);
+}
 
 clsRegistration::clsRegistration(StoreContext& context) : RecordClass(context) {
     open({.source = "tblRegistration",
@@ -47,7 +50,8 @@ clsRegistration::clsRegistration(StoreContext& context) : RecordClass(context) {
 }
 
 void clsRegistration::newRecord() {
-    const std::vector<Text*> kept{&PlayerCity, &PlayerStateId, &PlayerZipCode, &PlayerPostalCode, &PlayerFeeAmount, &PlayerFundRaiserFee};
+    const std::vector<Text*> kept{&PlayerCity,       &PlayerStateId,   &PlayerZipCode,
+                                  &PlayerPostalCode, &PlayerFeeAmount, &PlayerFundRaiserFee};
     std::vector<QString> held;
     for (const Text* text : kept) held.push_back(*text);
     RecordClass::newRecord();
@@ -58,22 +62,50 @@ void clsRegistration::newRecord() {
 
 void clsRegistration::setFlagsOfNewRecord() {
     for (Flag* flag : {&PlayerActive, &PlayerIdCheck, &PlayerBirthCertificateChecked}) *flag = true;
-    for (Flag* flag : {&PlayerIsUmpire, &PlayerFundRaiserFeePaid, &PlayerOtherFeesPaid, &PlayerDeletedFlag, &PlayerHandLeft,
-                       &PlayerHandRight, &PlayerSendInvitation, &PlayerParentApproval, &PlayerPhotoOptIn, &PlayerDadSendInvitation,
-                       &PlayerMomSendInvitation, &PlayerDadPhotoOptIn, &PlayerMomPhotoOptIn})
+    for (Flag* flag :
+         {&PlayerIsUmpire, &PlayerFundRaiserFeePaid, &PlayerOtherFeesPaid, &PlayerDeletedFlag, &PlayerHandLeft,
+          &PlayerHandRight, &PlayerSendInvitation, &PlayerParentApproval, &PlayerPhotoOptIn, &PlayerDadSendInvitation,
+          &PlayerMomSendInvitation, &PlayerDadPhotoOptIn, &PlayerMomPhotoOptIn})
         *flag = false;
     PlayerDadVolunteer = 1;
     PlayerMomVolunteer = 1;
 }
 
 void clsRegistration::NewSiblingPlayerRecord() {
-    for (Text* text : {&PlayerFirstName, &PlayerMiddleInitial, &PlayerGender, &PlayerEmailAddress, &PlayerShirtSize, &PlayerPantSize,
-                       &PlayerHatSize, &PlayerSocksSize, &PlayerShoeSize, &PlayerHeight, &PlayerWeight, &PlayerTryoutNumber,
-                       &PlayerFeePaid, &PlayerAmountPaid, &PlayerHowFeePaid, &PlayerComments, &PlayerSchoolName, &PlayerGradeLevel,
-                       &PlayerOtherFees, &PlayerMedicalComments, &PlayerJerseyNumber, &PlayerLarkfoldMemberId,
-                       &PlayerDadLarkfoldMemberID, &PlayerMomLarkfoldMemberID, &PlayerRegistrationNumber, &PlayerCustomField1,
-                       &PlayerCustomField2, &PlayerCustomField3, &PlayerCustomField4, &PlayerCustomField5, &PlayerCustomField6,
-                       &PlayerGuardian1Key, &PlayerGuardian2Key, &PlayerAge})
+    for (Text* text : {&PlayerFirstName,
+                       &PlayerMiddleInitial,
+                       &PlayerGender,
+                       &PlayerEmailAddress,
+                       &PlayerShirtSize,
+                       &PlayerPantSize,
+                       &PlayerHatSize,
+                       &PlayerSocksSize,
+                       &PlayerShoeSize,
+                       &PlayerHeight,
+                       &PlayerWeight,
+                       &PlayerTryoutNumber,
+                       &PlayerFeePaid,
+                       &PlayerAmountPaid,
+                       &PlayerHowFeePaid,
+                       &PlayerComments,
+                       &PlayerSchoolName,
+                       &PlayerGradeLevel,
+                       &PlayerOtherFees,
+                       &PlayerMedicalComments,
+                       &PlayerJerseyNumber,
+                       &PlayerLarkfoldMemberId,
+                       &PlayerDadLarkfoldMemberID,
+                       &PlayerMomLarkfoldMemberID,
+                       &PlayerRegistrationNumber,
+                       &PlayerCustomField1,
+                       &PlayerCustomField2,
+                       &PlayerCustomField3,
+                       &PlayerCustomField4,
+                       &PlayerCustomField5,
+                       &PlayerCustomField6,
+                       &PlayerGuardian1Key,
+                       &PlayerGuardian2Key,
+                       &PlayerAge})
         *text = QString();
     PlayerRegistrationDate = context().clock.today();
     PlayerFundRaiserFee = "0";
@@ -92,18 +124,17 @@ QString clsRegistration::ComputePlayerAge() const {
                     ReadFieldValue(store, store.dataFilePath, QStringLiteral("DivAgeCutoffDay"), query, criterion)};
     }
     const CutOff cutOff = cutOffByPair(division, {defaultAgeCutoffMonth_, defaultAgeCutoffDay_});
-    return QString::number(CalculateAge(shortDate(PlayerBirthDate), cutOff.month, cutOff.day, store.globals.currentSeasonYear));
+    return QString::number(
+        CalculateAge(shortDate(PlayerBirthDate), cutOff.month, cutOff.day, store.globals.currentSeasonYear));
 }
 
-void clsRegistration::beforeWrite(bool adding) {
+void clsRegistration::beforeWrite(bool adding, StampSource stamps) {
     PlayerAge = ComputePlayerAge();
-    if (adding) PlayerTeamId = 0;
+    if (adding && stamps == StampSource::Fresh) PlayerTeamId = 0;
 }
 
 /// A player with the same names and birth date, deleted or not, is written over: the screen has asked before.
-QString clsRegistration::twinCriteria() const {
-    return criteriaOf({PlayerLastName, PlayerFirstName, PlayerBirthDate});
-}
+QString clsRegistration::twinCriteria() const { return criteriaOf({PlayerLastName, PlayerFirstName, PlayerBirthDate}); }
 
 void clsRegistration::whileDeleting(datafile::Recordset& row) { row.set(QStringLiteral("PlayerActive"), false); }
 
@@ -112,20 +143,55 @@ bool clsRegistration::FindPlayerRecord(const QString& key, bool show, bool load)
     const PlayerKey wanted = PlayerKey::parse(key);
     if (find(criteriaOf(wanted), load)) return true;
     if (show)
-        context().dialogs.information({}, QStringLiteral("No Records found for %1, %2.").arg(wanted.lastName, wanted.firstName));
+        context().dialogs.information(
+            {}, QStringLiteral("No Records found for %1, %2.").arg(wanted.lastName, wanted.firstName));
     return false;
 }
 
+void clsRegistration::FindExactPlayerRecord(const QString& lastName, const QString& firstName, QDate birthDate,
+                                            bool& found, bool load) {
+    found = birthDate.isValid() && find(criteriaOf({lastName, firstName, birthDate}), load);
+}
+
 void clsRegistration::FindPlayerAssignments(int divisionId, int teamId, bool& found) {
-    found = find(matches("PlayerDivisionId", divisionId) + QStringLiteral(" AND ") + matches("PlayerTeamId", teamId), false);
+    found = find(matches({{"PlayerDivisionId", divisionId}, {"PlayerTeamId", teamId}}), false);
+}
+
+void clsRegistration::UpdateOldVolInfo(const QString& parent, const ParentName& old, const ParentName& now,
+                                       bool& found) {
+    const auto column = [&parent](const char* name) {
+        return QString(QStringLiteral("[Player") + parent + QLatin1String(name) + u']');
+    };
+    const auto equals = [&column](const char* name, const QString& value) {
+        return QString(column(name) + QStringLiteral(" = ") + datafile::quoted(value));
+    };
+    const QStringList values{equals("LastName", now.lastName), equals("FirstName", now.firstName),
+                             equals("PhoneArea", now.phoneArea), equals("Phone", now.phone),
+                             freshStamps(context().clock)};
+    const QStringList criteria{equals("LastName", old.lastName), equals("FirstName", old.firstName),
+                               equals("Phone", old.phone)};
+    found = database().execute(QStringLiteral("UPDATE tblRegistration SET ") + values.join(QStringLiteral(", ")) +
+                               QStringLiteral(" WHERE ") + criteria.join(QStringLiteral(" AND "))) > 0;
+}
+
+void clsRegistration::RemovePlayerAssignments(int divisionId, int teamId) {
+    database().execute(QStringLiteral("UPDATE tblRegistration SET [PlayerTeamId] = 0, ") +
+                       freshStamps(context().clock) + QStringLiteral(" WHERE ") +
+                       matches({{"PlayerDivisionId", divisionId}, {"PlayerTeamId", teamId}}));
 }
 
 void clsRegistration::CountPlayers(int kind, int& count) {
     QString query = QStringLiteral("SELECT Count(*) as PlayerCount from tblRegistration ");
     switch (kind) {
         case 1: query += QStringLiteral("WHERE tblRegistration![DeletedFlag] = FALSE"); break;
-        case 2: query += QStringLiteral("WHERE tblRegistration![PlayerActive] = TRUE   AND tblRegistration![DeletedFlag] = FALSE"); break;
-        case 3: query += QStringLiteral("WHERE tblRegistration![PlayerActive] = FALSE   AND tblRegistration![DeletedFlag] = FALSE"); break;
+        case 2:
+            query += QStringLiteral(
+                "WHERE tblRegistration![PlayerActive] = TRUE   AND tblRegistration![DeletedFlag] = FALSE");
+            break;
+        case 3:
+            query += QStringLiteral(
+                "WHERE tblRegistration![PlayerActive] = FALSE   AND tblRegistration![DeletedFlag] = FALSE");
+            break;
         default: query += QStringLiteral("WHERE tblRegistration![DeletedFlag] = TRUE"); break;
     }
     count = static_cast<int>(database().openRecordset(query).number("PlayerCount"));

@@ -13,6 +13,14 @@ struct PlayerKey {
     QString text() const;
 };
 
+/// A parent as a player's record names one.
+struct ParentName {
+    QString lastName;
+    QString firstName;
+    QString phone;
+    QString phoneArea{};
+};
+
 /// One registered child. Row of tblRegistration, found again by last name, first name and birth date.
 class clsRegistration final : public RecordClass {
 public:
@@ -163,6 +171,7 @@ public:
 
     void PlayerMove(int code) { move(code); }
     void SavePlayerRecord() { save(); }
+    /// Unlike the plain save, an add keeps the team.
     void SavePlayerMergeRecord() { saveMerge(); }
     bool IsPlayerValid(bool showError) const { return isValid(showError); }
     void UndoPlayerRecord() { undo(); }
@@ -177,17 +186,27 @@ public:
 
     /// By the text of a list entry; deleted players too. Without `load` the cursor moves and the properties stay.
     bool FindPlayerRecord(const QString& key, bool show, bool load);
-    void FindPlayerRecord2(const QString& key, bool show, bool load, bool& found) { found = FindPlayerRecord(key, show, load); }
+    void FindPlayerRecord2(const QString& key, bool show, bool load, bool& found) {
+        found = FindPlayerRecord(key, show, load);
+    }
+    /// By the values themselves, whatever the names hold; deleted players too.
+    void FindExactPlayerRecord(const QString& lastName, const QString& firstName, QDate birthDate, bool& found,
+                               bool load);
     void FindPlayerAssignments(int divisionId, int teamId, bool& found);
     void FindPlayerRecordByPlayerId(int id, bool& found) { found = find(matches("PlayerId", id), true); }
     void CountPlayerRegistrations(int& count) { count = recordCount(); }
+    /// Every player with the parent (`parent` is "Dad" or "Mom") of that name and phone takes the new names, phone and
+    /// area, in one statement. `found` tells whether there was one.
+    void UpdateOldVolInfo(const QString& parent, const ParentName& old, const ParentName& now, bool& found);
+    /// Leaves all players of the team without one, deleted players too; they stay in the division.
+    void RemovePlayerAssignments(int divisionId, int teamId);
     /// Kinds: 1 not deleted, 2 active, 3 inactive, 4 deleted.
     void CountPlayers(int kind, int& count);
 
     void newRecord() override;
 
 private:
-    void beforeWrite(bool adding) override;
+    void beforeWrite(bool adding, StampSource stamps) override;
     void whileDeleting(datafile::Recordset& row) override;
     QString twinCriteria() const override;
     void setFlagsOfNewRecord();
