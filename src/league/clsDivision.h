@@ -56,7 +56,9 @@ public:
     /// Deleted rows too.
     void FindDivisionMergeRecord(const QString& name, bool show, bool load, bool& found);
     void FindDivisionRecordById(int id, bool show, bool load, bool& found);
-    void FindDupDivRecord(const QString& name, bool show, bool load, bool& found) { found = findByName(name, show, load); }
+    void FindDupDivRecord(const QString& name, bool show, bool load, bool& found) {
+        found = findByName(name, show, load);
+    }
 
     /// Whether a live team belongs to the division.
     bool TeamsAssignedToDivision(int divisionId);
