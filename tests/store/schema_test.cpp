@@ -118,7 +118,19 @@ TEST(SchemaTest, ListsAndNaturalKeysAreAnsweredByIndexes) {
         {"SELECT * FROM tblVolunteer WHERE VolLastName = \"a\" AND VolFirstName = \"b\" AND VolHomePhone = \"c\"", "SEARCH"},
         {"SELECT * FROM tblSponsor WHERE DeletedFlag = False AND SponsorName = \"a\"", "SEARCH"},
         {"SELECT * FROM tblSchoolInfo WHERE DeletedFlag = True AND SchoolName = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblCertifications WHERE DeletedFlag = False AND CertificationName = \"a\"", "SEARCH"}};
+        {"SELECT * FROM tblCertifications WHERE DeletedFlag = False AND CertificationName = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblTeam WHERE DeletedFlag = True AND DivisionId = 1 AND TeamName = \"a\"", "(DivisionId=? AND TeamName=? AND DeletedFlag=?)"},
+        {"SELECT * FROM tblVolunteer WHERE DeletedFlag = True AND VolLastName = \"a\" AND VolFirstName = \"b\" AND VolHomePhone = \"c\"", "VolHomePhone=?"},
+        {"SELECT * FROM tblField WHERE DeletedFlag = False AND FieldName = \"a\"", "FieldName=?"},
+        {"SELECT * FROM tblTeamField WHERE FieldId = 1 AND DivisionId = 2 ORDER BY [FieldId]", "FieldId=?"},
+        {"SELECT * FROM tblTeamVolunteer WHERE DeletedFlag = False AND DivisionId = 1 AND TeamId = 2 AND VolPosName = \"a\"", "(TeamId=? AND VolPosName=?)"},
+        {"SELECT * FROM tblTeamVolunteer WHERE VolId = 1 AND DivisionId = 1 AND TeamId = 2 AND VolPosName = \"a\"", "VolPosName=?"},
+        {"SELECT * FROM tblRegistrationVolunteer WHERE DeletedFlag = False AND PlayerId = 1 AND VolGender = \"Dad\"", "(PlayerId=? AND VolGender=?)"},
+        {"SELECT * FROM tblRegistrationVolunteer WHERE VolId = 1 AND VolGender = \"Dad\"", "VolId=?"},
+        {"SELECT * FROM tblVolToPosition WHERE DeletedFlag = True AND VolId = 1 AND PlayerId = 2 AND VolPosId = 3", "Id=?"},
+        {"SELECT * FROM tblSponsorPreviousPledge WHERE DeletedFlag = False AND SponsorId = 1 AND PreviousPledgeYear = \"2026\"", "PreviousPledgeYear=?"},
+        {"SELECT * FROM tblRegistration WHERE [PlayerMomLastName] = \"a\" AND [PlayerMomFirstName] = \"b\" AND [PlayerMomPhone] = \"c\"", "PlayerMomPhone=?"},
+        {"SELECT * FROM tblRegistration WHERE PlayerDivisionId = 1 AND PlayerTeamId = 2", "PlayerTeamId=?"}};
     for (const auto& [query, step] : queries) {
         const QString plan = league.database().queryPlan(query).join('\n');
         EXPECT_TRUE(plan.contains(step)) << query << "\n" << plan.toStdString();
