@@ -128,7 +128,7 @@ QList<TableDef> people() {
         stamped("tblRegistrationVolunteer", number("VolId PlayerId") + text("VolGender", 10),
                 {index("idxVolunteer", "VolId PlayerId"), index("idxPlayer", "PlayerId VolGender")}),
         stamped("tblVolToPosition", number("VolId PlayerId VolPosId"),
-                {index("VolunteerId", "VolId"), index("idxPlayer", "PlayerId"), index("idxPosition", "VolPosId")}),
+                {index("VolunteerId", "VolId"), index("idxPlayer", "PlayerId VolId"), index("idxPosition", "VolPosId VolId PlayerId")}),
         stamped("tblVolunteerCertifications", number("VolId CertificationId"),
                 {index("idxVolunteer", "VolId CertificationId"), index("idxCertification", "CertificationId")}),
         stamped("tblSponsor",

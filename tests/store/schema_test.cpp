@@ -127,7 +127,8 @@ TEST(SchemaTest, ListsAndNaturalKeysAreAnsweredByIndexes) {
         {"SELECT * FROM tblTeamVolunteer WHERE VolId = 1 AND DivisionId = 1 AND TeamId = 2 AND VolPosName = \"a\"", "VolPosName=?"},
         {"SELECT * FROM tblRegistrationVolunteer WHERE DeletedFlag = False AND PlayerId = 1 AND VolGender = \"Dad\"", "(PlayerId=? AND VolGender=?)"},
         {"SELECT * FROM tblRegistrationVolunteer WHERE VolId = 1 AND VolGender = \"Dad\"", "VolId=?"},
-        {"SELECT * FROM tblVolToPosition WHERE DeletedFlag = True AND VolId = 1 AND PlayerId = 2 AND VolPosId = 3", "Id=?"},
+        {"SELECT * FROM tblVolToPosition WHERE DeletedFlag = True AND VolId = 1 AND PlayerId = 2 AND VolPosId = 3", "(VolPosId=? AND VolId=? AND PlayerId=?)"},
+        {"SELECT * FROM tblVolToPosition WHERE VolId = 1 AND PlayerId = 0", "(PlayerId=? AND VolId=?)"},
         {"SELECT * FROM tblSponsorPreviousPledge WHERE DeletedFlag = False AND SponsorId = 1 AND PreviousPledgeYear = \"2026\"", "PreviousPledgeYear=?"},
         {"SELECT * FROM tblRegistration WHERE [PlayerMomLastName] = \"a\" AND [PlayerMomFirstName] = \"b\" AND [PlayerMomPhone] = \"c\"", "PlayerMomPhone=?"},
         {"SELECT * FROM tblRegistration WHERE PlayerDivisionId = 1 AND PlayerTeamId = 2", "PlayerTeamId=?"}};
