@@ -118,7 +118,20 @@ TEST(SchemaTest, ListsAndNaturalKeysAreAnsweredByIndexes) {
         {"SELECT * FROM tblVolunteer WHERE VolLastName = \"a\" AND VolFirstName = \"b\" AND VolHomePhone = \"c\"", "SEARCH"},
         {"SELECT * FROM tblSponsor WHERE DeletedFlag = False AND SponsorName = \"a\"", "SEARCH"},
         {"SELECT * FROM tblSchoolInfo WHERE DeletedFlag = True AND SchoolName = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblCertifications WHERE DeletedFlag = False AND CertificationName = \"a\"", "SEARCH"}};
+        {"SELECT * FROM tblCertifications WHERE DeletedFlag = False AND CertificationName = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblVolunteerPositions WHERE DeletedFlag = False AND VolPosName = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblRating WHERE DeletedFlag = False AND RatingText = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblDifficultyRating WHERE DeletedFlag = False AND DifficultyRatingText = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblVendor WHERE DeletedFlag = False AND VendorName = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblInsurance WHERE DeletedFlag = False AND InsAgencyName = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblHatSize WHERE DeletedFlag = False AND HatSizeText = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblAbilityRating WHERE PlayerId = 1", "SEARCH"},
+        {"SELECT * FROM tblAbilityRating WHERE VolId = 1", "SEARCH"},
+        {"SELECT * FROM tblEquipment WHERE DeletedFlag = False AND ItemName = \"a\" AND Description = \"b\"", "SEARCH"},
+        {"SELECT * FROM tblEquipmentAssignment WHERE DeletedFlag = False AND DivisionId = 1 AND TeamId = 1 AND PlayerId = 0 AND VolId = 0", "idxHolder"},
+        {"SELECT * FROM tblSchedule WHERE division = \"a\" ORDER BY [Date], [Time]", "SEARCH"},
+        {"SELECT * FROM tblResults WHERE DivisionId = 1 AND HomeTeamId = 1 AND VisitorTeamId = 2 AND GameDate = #4-2-2012#", "SEARCH"},
+        {"SELECT * FROM tblTempResults WHERE [TeamId] = 1", "SEARCH"}};
     for (const auto& [query, step] : queries) {
         const QString plan = league.database().queryPlan(query).join('\n');
         EXPECT_TRUE(plan.contains(step)) << query << "\n" << plan.toStdString();
