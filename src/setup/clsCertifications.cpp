@@ -25,11 +25,6 @@ void clsCertifications::DeleteVolCertificationRecord(int volunteerId, int certif
 }
 
 void clsCertifications::DeleteAllVolCertificationRecords(int certificationId) {
-    datafile::Transaction transaction(database());
-    datafile::Recordset held = database().openRecordset(
-        "SELECT * from tblVolunteerCertifications "
-        "WHERE tblVolunteerCertifications![CertificationId] = " +
-        QString::number(certificationId));
-    softDeleteAll(held, context().clock);
-    transaction.commit();
+    softDeleteRows("SELECT * from tblVolunteerCertifications WHERE tblVolunteerCertifications![CertificationId] = " +
+                   QString::number(certificationId));
 }

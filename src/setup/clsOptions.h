@@ -28,6 +28,7 @@ public:
 
     void OptionsMove(int code) { move(code); }
     void SaveOptionsRecord() { save(); }
+    void SaveOptionsMergeRecord() { saveMerge(); }
     bool IsOptionsValid(bool showError) const { return isValid(showError); }
     void UndoOptionsRecord() { undo(); }
     /// Blank, but for today's dates and this year's season.
@@ -75,6 +76,7 @@ public:
 
     void DefaultsMove(int code) { move(code); }
     void SaveDefaultsRecord() { save(); }
+    void SaveDefaultsMergeRecord() { saveMerge(); }
     bool IsDefaultsValid(bool showError) const { return isValid(showError); }
     void UndoDefaultsRecord() { undo(); }
     /// Blank, but for fees of "0.00" and the date format "MM/dd/yy".

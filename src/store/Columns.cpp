@@ -20,9 +20,9 @@ void Text::blank() {
 
 void Text::read(const datafile::Value& value) {
     value_ = datafile::toText(value);
-    const bool keep = rule_.kind == TextRule::Kind::AsStored ||
-                      (rule_.kind == TextRule::Kind::FilledElse ? !value_.isEmpty() : isNumeric(value_));
-    if (!keep) value_ = QString::fromLatin1(rule_.otherwise);
+    const bool replace = (rule_.kind == TextRule::Kind::FilledElse && value_.isEmpty()) ||
+                         (rule_.kind == TextRule::Kind::NumericElse && !isNumeric(value_));
+    if (replace) value_ = QString::fromLatin1(rule_.otherwise);
 }
 
 datafile::Value Text::stored(bool adding) const {
@@ -48,4 +48,11 @@ void Day::read(const datafile::Value& value) {
 datafile::Value Day::stored(bool) const {
     if (value_.isValid() || rule_ == NoDate::Empty) return datafile::fromDate(value_);
     return datafile::fromDate(rule_ == NoDate::Today ? today() : unsetDate);
+}
+
+QTime TimeOfDay::now() const { return toMinute(RecordClass::clockOf(*this).now().time()); }
+
+void TimeOfDay::read(const datafile::Value& value) {
+    value_ = datafile::toTime(value);
+    if (!value_.isValid()) value_ = now();
 }

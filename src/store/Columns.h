@@ -24,6 +24,8 @@ public:
     /// Whether a required property counts as given.
     virtual bool isFilled() const = 0;
     virtual void blank() = 0;
+    /// Whether a save writes it at all.
+    virtual bool isWritten() const { return true; }
 
 protected:
     void touch();
@@ -48,6 +50,7 @@ public:
     int operator()() const { return value_; }
     bool isFilled() const override { return value_ != 0; }
     void blank() override { value_ = 0; }
+    bool isWritten() const override { return false; }
 
 private:
     friend class RecordClass;
@@ -58,13 +61,15 @@ private:
 
 /// How a text property reads what is stored.
 struct TextRule {
-    enum class Kind { AsStored, NumericElse, FilledElse } kind = Kind::AsStored;
+    enum class Kind { AsStored, NumericElse, FilledElse, NeverWritten } kind = Kind::AsStored;
     const char* otherwise = "";
 };
 /// A text that is no number reads, blanks and is added as `otherwise`.
 constexpr TextRule numericElse(const char* otherwise) { return {TextRule::Kind::NumericElse, otherwise}; }
 /// An empty text reads as `otherwise`.
 constexpr TextRule filledElse(const char* otherwise) { return {TextRule::Kind::FilledElse, otherwise}; }
+/// Read from the row, but kept elsewhere when it is edited.
+constexpr TextRule neverWritten{TextRule::Kind::NeverWritten};
 
 /// A text, money or number-like property, whatever the column's type.
 class Text final : public Column {
@@ -77,6 +82,7 @@ public:
     const QString& operator()() const { return value_; }
     bool isFilled() const override { return !value_.isEmpty(); }
     void blank() override;
+    bool isWritten() const override { return rule_.kind != TextRule::Kind::NeverWritten; }
 
 private:
     datafile::Value stored(bool adding) const override;
@@ -151,6 +157,26 @@ private:
     QDate today() const;
     NoDate rule_;
     QDate value_;
+};
+
+/// A time of day, to the minute; where there is none it reads, blanks and is written as now.
+class TimeOfDay final : public Column {
+public:
+    using Column::Column;
+    TimeOfDay& operator=(QTime value) { return value_ = toMinute(value), touch(), *this; }
+    TimeOfDay& operator=(const TimeOfDay& other) { return *this = other.value_; }
+    operator QTime() const { return value_; }
+    QTime operator()() const { return value_; }
+    bool isFilled() const override { return value_.isValid(); }
+    void blank() override { value_ = now(); }
+
+    static QTime toMinute(QTime time) { return time.isValid() ? QTime(time.hour(), time.minute()) : time; }
+
+private:
+    datafile::Value stored(bool) const override { return datafile::fromTime(value_.isValid() ? value_ : now()); }
+    void read(const datafile::Value& value) override;
+    QTime now() const;
+    QTime value_;
 };
 
 /// The three columns that nearly every table ends with: when a row was last saved, and whether it is deleted.

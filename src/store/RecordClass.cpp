@@ -7,6 +7,7 @@ using datafile::Recordset;
 namespace {
 
 constexpr char programName[] = "Kestrelmoor";
+constexpr char notFoundTitle[] = "Record Not Found...";
 
 }  // namespace
 
@@ -157,8 +158,7 @@ void RecordClass::write(bool adding, StampSource stamps) {
             if (column) column->assigned_ = true;
     }
     for (Column* column : columns_)
-        if ((adding || column->assigned_) && !dynamic_cast<Key*>(column))
-            main_->set(column->field_, column->stored(adding));
+        if ((adding || column->assigned_) && column->isWritten()) main_->set(column->field_, column->stored(adding));
 }
 
 QString RecordClass::twinCriteria() const {
@@ -176,8 +176,15 @@ void RecordClass::deleteRecord() {
     loadNeighbour();
 }
 
+void RecordClass::removeRecord() {
+    main_->remove();
+    clearFlags();
+    blank();
+    loadNeighbour();
+}
+
 void RecordClass::loadNeighbour() {
-    if (main_->recordCount() == 1) return blank();
+    if (main_->bookmark() != 0 && main_->recordCount() == 1) return blank();  // the deleted row itself
     main_->movePrevious();
     if (main_->bof()) main_->moveFirst();
     load();
@@ -217,22 +224,20 @@ bool RecordClass::firstOrTell(bool show, bool loadRow, const FindTexts& texts) {
     return true;
 }
 
-namespace {
+bool RecordClass::findOrTell(const QString& criteria, const QString& name, bool show, bool loadRow) {
+    return findOrTell(criteria, name, show, loadRow, {notFoundTitle, "No Records Found for %1.", "No Records found for %1."});
+}
 
-constexpr char notFoundTitle[] = "Record Not Found...";
-constexpr char emptyText[] = "No Records Found for %1.";
-constexpr char missText[] = "No Records found for %1.";
-
-}  // namespace
+bool RecordClass::findOrTell(const QString& criteria, bool show, bool loadRow) {
+    return findOrTell(criteria, {}, show, loadRow, {notFoundTitle, "No Records found.", "No Records found."});
+}
 
 bool RecordClass::findByName(const QString& name, bool show, bool loadRow) {
-    return findOrTell(live(matches(rules_.naturalKey.front()->name(), name)), name, show, loadRow,
-                      {notFoundTitle, emptyText, missText});
+    return findOrTell(live(matches(rules_.naturalKey.front()->name(), name)), name, show, loadRow);
 }
 
 bool RecordClass::findAnyByName(const QString& name, bool show, bool loadRow) {
-    return findOrTell(matches(rules_.naturalKey.front()->name(), name), name, show, loadRow,
-                      {notFoundTitle, emptyText, missText});
+    return findOrTell(matches(rules_.naturalKey.front()->name(), name), name, show, loadRow);
 }
 
 bool RecordClass::findDeletedByName(const QString& name) {
@@ -240,8 +245,14 @@ bool RecordClass::findDeletedByName(const QString& name) {
 }
 
 bool RecordClass::findById(const Key& key, int id, bool show, bool loadRow) {
-    return findOrTell(live(matches(key.name(), id)), {}, show, loadRow,
-                      {notFoundTitle, "No Records found.", "No Records found."});
+    return findOrTell(live(matches(key.name(), id)), show, loadRow);
+}
+
+void RecordClass::softDeleteRows(const QString& query) {
+    datafile::Transaction transaction(database_);
+    Recordset rows = database_.openRecordset(query);
+    softDeleteAll(rows, context_.clock);
+    transaction.commit();
 }
 
 bool standOn(Recordset& rows, const QString& criteria) {

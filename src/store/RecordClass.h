@@ -72,6 +72,8 @@ public:
     virtual void blank();
     /// Soft-deletes the current row and loads a neighbour; without one the properties are blank.
     void deleteRecord();
+    /// Removes the current row for good and loads a neighbour; without one the properties are blank.
+    void removeRecord();
     /// Runs the main cursor's query again, so that rows added by other holders are seen.
     void requery();
 
@@ -113,6 +115,9 @@ protected:
     datafile::Recordset& main() { return *main_; }
     /// find() that says in a warning box that nothing was found, when `show` is set.
     bool findOrTell(const QString& criteria, const QString& name, bool show, bool load, const FindTexts& texts);
+    /// The same in the words that most finds use: "No Records found for X." or, without a name, "No Records found.".
+    bool findOrTell(const QString& criteria, const QString& name, bool show, bool load);
+    bool findOrTell(const QString& criteria, bool show, bool load);
     /// Stands on the first row; an empty table is told with the title and `onEmpty`.
     bool firstOrTell(bool show, bool load, const FindTexts& texts);
     /// findOrTell by the first column of the natural key: the live row of that name, any row, a deleted one; the
@@ -122,6 +127,8 @@ protected:
     bool findDeletedByName(const QString& name);
     bool findById(const Key& key, int id, bool show, bool load);
     void load();
+    /// Marks every row of the query as deleted, with fresh stamps, in one transaction.
+    void softDeleteRows(const QString& query);
     [[noreturn]] void raise(quint32 number) const;
     QString errorText(quint32 number) const;
 
@@ -140,6 +147,7 @@ protected:
 private:
     friend class Column;
     friend class Day;
+    friend class TimeOfDay;
 
     static Clock& clockOf(const Column& column) { return column.owner_->context_.clock; }
     void addColumn(Column* column) { columns_.push_back(column); }

@@ -276,7 +276,7 @@ QList<TableDef> workTables() {
         plain("tblTempResults",
               number("TeamId") + text("TeamName", 35) + number("SponsorId") + text("SponsorName") + defaulting("0", number("DivisionId")) +
                   text("DivisionName", 30) + number("Wins Losses Ties") + real("WinPercentage"),
-              {index("DivisionName", "DivisionId")}),
+              {index("DivisionName", "DivisionId"), index("idxTeam", "TeamId")}),
         plain("tblTempFeeReport",
               required(text("PlayerLastName PlayerFirstName", 30)) + required(date("PlayerBirthDate")) + text("PlayerAddress1 PlayerAddress2") +
                   text("PlayerCity", 30) + text("PlayerState", 2) + text("PlayerPostalCode", 15) + text("PlayerCountryCode", 30) +

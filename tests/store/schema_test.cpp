@@ -131,7 +131,20 @@ TEST(SchemaTest, ListsAndNaturalKeysAreAnsweredByIndexes) {
         {"SELECT * FROM tblVolToPosition WHERE VolId = 1 AND PlayerId = 0", "(PlayerId=? AND VolId=?)"},
         {"SELECT * FROM tblSponsorPreviousPledge WHERE DeletedFlag = False AND SponsorId = 1 AND PreviousPledgeYear = \"2026\"", "PreviousPledgeYear=?"},
         {"SELECT * FROM tblRegistration WHERE [PlayerMomLastName] = \"a\" AND [PlayerMomFirstName] = \"b\" AND [PlayerMomPhone] = \"c\"", "PlayerMomPhone=?"},
-        {"SELECT * FROM tblRegistration WHERE PlayerDivisionId = 1 AND PlayerTeamId = 2", "PlayerTeamId=?"}};
+        {"SELECT * FROM tblRegistration WHERE PlayerDivisionId = 1 AND PlayerTeamId = 2", "PlayerTeamId=?"},
+        {"SELECT * FROM tblVolunteerPositions WHERE DeletedFlag = False AND VolPosName = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblRating WHERE DeletedFlag = False AND RatingText = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblDifficultyRating WHERE DeletedFlag = False AND DifficultyRatingText = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblVendor WHERE DeletedFlag = False AND VendorName = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblInsurance WHERE DeletedFlag = False AND InsAgencyName = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblHatSize WHERE DeletedFlag = False AND HatSizeText = \"a\"", "SEARCH"},
+        {"SELECT * FROM tblAbilityRating WHERE PlayerId = 1", "SEARCH"},
+        {"SELECT * FROM tblAbilityRating WHERE VolId = 1", "SEARCH"},
+        {"SELECT * FROM tblEquipment WHERE DeletedFlag = False AND ItemName = \"a\" AND Description = \"b\"", "SEARCH"},
+        {"SELECT * FROM tblEquipmentAssignment WHERE DeletedFlag = False AND DivisionId = 1 AND TeamId = 1 AND PlayerId = 0 AND VolId = 0", "idxHolder"},
+        {"SELECT * FROM tblSchedule WHERE division = \"a\" ORDER BY [Date], [Time]", "SEARCH"},
+        {"SELECT * FROM tblResults WHERE DivisionId = 1 AND HomeTeamId = 1 AND VisitorTeamId = 2 AND GameDate = #4-2-2012#", "SEARCH"},
+        {"SELECT * FROM tblTempResults WHERE [TeamId] = 1", "SEARCH"}};
     for (const auto& [query, step] : queries) {
         const QString plan = league.database().queryPlan(query).join('\n');
         EXPECT_TRUE(plan.contains(step)) << query << "\n" << plan.toStdString();

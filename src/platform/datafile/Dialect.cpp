@@ -19,6 +19,8 @@ QString quoted(const QDate& date) {
            QString::number(date.year()) + u'#';
 }
 
+QString quoted(const QTime& time) { return u'#' + time.toString(Qt::ISODate) + u'#'; }
+
 namespace dialect {
 
 namespace {

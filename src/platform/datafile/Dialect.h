@@ -50,5 +50,7 @@ namespace datafile {
 QString quoted(const QString& text);
 /// A date as a literal of the dialect, "#4-2-2026#".
 QString quoted(const QDate& date);
+/// A time of day as a literal of the dialect, "#18:30:00#".
+QString quoted(const QTime& time);
 
 }  // namespace datafile
