@@ -107,6 +107,7 @@ void RecordScreen::showState() {
     const bool editing = current && current->isEditing();
     const bool canAdd = current && !editing && current->canAdd();
     const bool canDelete = current && current->canDelete();
+    const bool saved = save_->hasFocus() && !editing;
     add_->setEnabled(canAdd);
     save_->setEnabled(editing);
     delete_->setEnabled(canDelete);
@@ -124,6 +125,7 @@ void RecordScreen::showState() {
         entry.remove->setEnabled(canDelete);
         entry.cancel->setEnabled(editing);
     }
+    if (saved) focusSearch();  // else the focus would go on to Close
 }
 
 bool RecordScreen::offerToSave() {

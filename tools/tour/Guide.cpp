@@ -1,7 +1,10 @@
 #include "tour/Guide.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
+#include <QRadioButton>
+#include <QTabBar>
 #include <QTest>
 #include <QToolBar>
 #include <cstdio>
@@ -26,7 +29,8 @@ void Guide::begin(const QString& step) {
 
 void Guide::fail(const QString& why) {
     std::fprintf(stderr, "The tour ended at \"%s\": %s\n", qPrintable(step_), qPrintable(why));
-    if (QWidget* window = QApplication::activeWindow()) window->grab().save(folder_ + "/failed.png");
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible()) window->grab().save(folder_ + "/failed-" + window->objectName() + ".png");
     std::_Exit(EXIT_FAILURE);  // dialogs may stand open, each in a loop of its own
 }
 
@@ -39,6 +43,15 @@ void Guide::waitForScreen(const QString& name) {
             "The screen " + name);
 }
 
+void Guide::waitForFocus(const QString& name) {
+    waitFor([&] { return focus() == name; }, "The focus in " + name);
+}
+
+void Guide::waitForStatus(const QString& text) {
+    auto& status = control<QLabel>("lblStatus");
+    waitFor([&] { return status.text() == text; }, "\"" + text + "\" in the status line");
+}
+
 QWidget& Guide::front() {
     QWidget* window = QApplication::activeModalWidget();
     if (!window) window = QApplication::activeWindow();
@@ -48,7 +61,19 @@ QWidget& Guide::front() {
 
 void Guide::click(QWidget& widget) {
     require(widget.isEnabled() && widget.isVisible(), "A click on " + widget.objectName());
-    QTest::mouseClick(&widget, Qt::LeftButton);
+    const int middle = widget.height() / 2;  // a radio button is as wide as its place, but only its left part reacts
+    const bool left = qobject_cast<QRadioButton*>(&widget);
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, left ? QPoint(middle, middle) : widget.rect().center());
+}
+
+void Guide::clickTab(const QString& title) {
+    for (auto* bar : front().findChildren<QTabBar*>())
+        for (int index = 0; index < bar->count(); ++index) {
+            if (bar->tabText(index) != title || !bar->isVisible()) continue;
+            QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(index).center());
+            return require(bar->currentIndex() == index, "The tab " + title);
+        }
+    fail("There is no tab " + title + " here.");
 }
 
 void Guide::clickTool(const QString& action) {
@@ -74,39 +99,67 @@ QString Guide::focus() const {
 }
 
 void Guide::during(const std::function<void()>& cause, const QString& dialog, const std::function<void()>& act) {
+    const QPointer<QWidget> screen = QApplication::activeWindow();
     act_ = act;
-    cause();
-    if (act_) fail(dialog + " did not come up.");
+    cause();  // an access key shows its button pressed first
+    waitFor([this] { return !act_ && !QApplication::activeModalWidget(); }, dialog);
+    if (!screen || !screen->isVisible()) return;
+    screen->activateWindow();  // where no window manager does it
+    waitFor([] { return QApplication::activeWindow(); }, "The return to the screen");
 }
 
 /// Meets each dialog once. One that nobody awaits is an error of the program's, told with its text.
 void Guide::watch() {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == met_) return;
-    if (dialog && !QApplication::activeWindow()) return;  // not yet on the screen
-    met_ = dialog;
-    if (!dialog) return;
-    if (!act_) {
-        const auto* box = qobject_cast<QMessageBox*>(dialog);
-        fail("\"" + dialog->windowTitle() + "\" came up" + (box ? ": " + box->text() : QString(".")));
+    if (dialog != seen_) {
+        seen_ = dialog;
+        met_ = false;
+        standing_.start();
     }
+    if (!dialog) return;
+    const auto* box = qobject_cast<QMessageBox*>(dialog);
+    const QString name = "\"" + dialog->windowTitle() + (box ? "\" (" + box->text() + ')' : QString("\""));
+    if (standing_.hasExpired(patience)) fail(name + " did not close.");
+    if (met_) return;
+    if (!dialog->isActiveWindow()) return dialog->activateWindow();
+    met_ = true;
+    if (!act_) fail(name + " came up.");
     std::exchange(act_, {})();
 }
+
+namespace {
+
+/// A dialog with its title, which is a window manager's to draw.
+QPixmap framed(QWidget& dialog) {
+    const QPixmap content = dialog.grab();
+    const int strip = dialog.fontMetrics().height() * 2;
+    const qreal ratio = content.devicePixelRatio();
+    QPixmap whole(QSize(dialog.width(), dialog.height() + strip) * ratio);
+    whole.setDevicePixelRatio(ratio);
+    const QRect outline(0, 0, dialog.width() - 1, dialog.height() + strip - 1);
+    QPainter painter(&whole);
+    painter.fillRect(outline, dialog.palette().mid());
+    painter.setPen(dialog.palette().color(QPalette::WindowText));
+    painter.drawText(QRect(0, 0, dialog.width(), strip), Qt::AlignCenter, dialog.windowTitle());
+    painter.drawPixmap(0, strip, content);
+    painter.drawRect(outline);
+    return whole;
+}
+
+}  // namespace
 
 void Guide::picture(const QString& name) {
     QCoreApplication::processEvents();
     QWidget& window = front();
     QPixmap picture = window.grab();
     for (QWidget* screen : QApplication::topLevelWidgets()) {
+        if (&window != QApplication::activeModalWidget()) break;
         const QRect place(screen->mapFromGlobal(window.mapToGlobal(QPoint())), window.size());
         if (screen == &window || !screen->isVisible() || !screen->rect().contains(place)) continue;
-        QPixmap whole = screen->grab();
-        QPainter painter(&whole);
-        painter.drawPixmap(place.topLeft(), picture);
-        painter.setPen(window.palette().color(QPalette::WindowText));
-        painter.drawRect(place);
-        painter.end();
-        picture = whole;
+        const QPixmap dialog = framed(window);
+        picture = screen->grab();
+        const int strip = qRound(dialog.deviceIndependentSize().height()) - window.height();
+        QPainter(&picture).drawPixmap(place.topLeft() - QPoint(0, strip), dialog);
     }
     const QString path = QString("%1/%2-%3.png").arg(folder_).arg(++pictures_, 2, 10, QChar('0')).arg(name);
     if (!picture.save(path)) fail(path + " could not be written.");

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -20,6 +22,8 @@ public:
     }
     void waitFor(const std::function<bool()>& condition, const QString& what);
     void waitForScreen(const QString& name);
+    void waitForFocus(const QString& name);
+    void waitForStatus(const QString& text);
 
     /// The window that takes the keys: the dialog in front, otherwise the active screen.
     QWidget& front();
@@ -31,6 +35,8 @@ public:
         return *found;
     }
     void click(const QString& name) { click(control(name)); }
+    /// The tab of that title, in whichever tab widget of the front window has it.
+    void clickTab(const QString& title);
     void click(QWidget& widget);
     /// The button of a toolbar's action.
     void clickTool(const QString& action);
@@ -53,6 +59,8 @@ private:
     QString step_;
     int pictures_ = 0;
     std::function<void()> act_;  ///< in the dialog that is awaited
-    QWidget* met_ = nullptr;     ///< the dialog that was met last
+    QPointer<QWidget> seen_;     ///< the dialog in front
+    bool met_ = false;           ///< it was handed to its act
+    QElapsedTimer standing_;
     QTimer watch_;
 };

@@ -3,9 +3,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTest>
+#include <QRadioButton>
 
 namespace {
 
@@ -55,6 +53,7 @@ void Tour::take() {
     openRegistration();
     startChild();
     fillChild();
+    fillParents();
     saveChild();
     findChild();
     addSchool();
@@ -90,14 +89,14 @@ void Tour::openRegistration() {
 /// Types into the search list, which has the focus after Alt+U.
 void Tour::search(const QString& text) {
     guide_.key(Qt::Key_U, Qt::AltModifier);
-    guide_.require(guide_.focus() == "cboPlayerSearchList", "The focus in the search list");
+    guide_.waitForFocus("cboPlayerSearchList");
     guide_.type(text);
 }
 
 void Tour::startChild() {
     guide_.begin("A new player with nothing but a last name");
     guide_.key(Qt::Key_N, Qt::AltModifier);
-    guide_.require(guide_.focus() == "txtPlayerLastName", "The focus in the first field");
+    guide_.waitForFocus("txtPlayerLastName");
     guide_.picture("registration-new");
     guide_.type("Winterbourne");
     guide_.during([this] { guide_.key(Qt::Key_S, Qt::AltModifier); }, "The box with what is missing",
@@ -105,7 +104,7 @@ void Tour::startChild() {
                       guide_.picture("registration-missing");
                       guide_.key(Qt::Key_Return);
                   });
-    guide_.waitFor([this] { return guide_.focus() == "txtPlayerFirstName"; }, "The focus in the field that is missing");
+    guide_.waitForFocus("txtPlayerFirstName");  // the first that is missing
 }
 
 void Tour::fillChild() {
@@ -119,11 +118,27 @@ void Tour::fillChild() {
     guide_.picture("registration-filled");
 }
 
+void Tour::fillParents() {
+    guide_.begin("The parents");
+    guide_.clickTab("Parent Info.");
+    for (const auto& [field, name] :
+         {std::pair{"txtPlayerDadFirstName", "Rowan"}, {"txtPlayerMomFirstName", "Hazel"}}) {
+        guide_.click(field);
+        guide_.type(name);
+    }
+    guide_.picture("registration-parents");
+    for (const auto& [tab, name] :
+         {std::pair{"School/Uniform", "school"}, {"Medical", "medical"}, {"Custom Fields", "custom"}}) {
+        guide_.clickTab(tab);
+        guide_.picture(QString("registration-") + name);
+    }
+    guide_.clickTab("Players");
+}
+
 void Tour::saveChild() {
     guide_.begin("Save");
     guide_.key(Qt::Key_S, Qt::AltModifier);
-    const QString status = guide_.control<QLabel>("lblStatus").text();
-    guide_.require(status == "Record \"" + child + "\" Saved.", "The word of the saved record (" + status + ')');
+    guide_.waitForStatus("Record \"" + child + "\" Saved.");
     guide_.picture("registration-saved");
 }
 
@@ -143,15 +158,13 @@ void Tour::addSchool() {
     guide_.clickTool("btnSetup");
     guide_.waitForScreen("frmSetup");
     guide_.picture("setup-certifications");
-    auto& tabs = *guide_.front().findChild<QTabWidget*>();
-    QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(1).center());
+    guide_.clickTab("Schools");
     guide_.click("cmdAdd");
     guide_.type("Larkspur Elementary");
     guide_.key(Qt::Key_Tab);
     guide_.type("Moved to Mill Road in 2024.");
     guide_.click("cmdSave");
-    const QString status = guide_.control<QLabel>("lblStatus").text();
-    guide_.require(status == "Record \"Larkspur Elementary\" Saved.", "The word of the saved school (" + status + ')');
+    guide_.waitForStatus("Record \"Larkspur Elementary\" Saved.");
     guide_.picture("setup-school");
 }
 
@@ -160,6 +173,8 @@ void Tour::previewList() {
     guide_.clickTool("btnReports");
     guide_.waitForScreen("frmReports");
     guide_.click("optReportSelection12");
+    guide_.require(guide_.control<QRadioButton>("optReportSelection12").isChecked(),
+                   "The choice of the league's lists");
     guide_.picture("reports");
     guide_.during([this] { guide_.click("cmdPrint"); }, "The preview",
                   [this] {
@@ -179,16 +194,17 @@ void Tour::previewList() {
 void Tour::saveList() {
     guide_.begin("The list as a PDF file");
     guide_.click("optReportDestination3");
+    guide_.require(guide_.control<QRadioButton>("optReportDestination3").isChecked(), "The choice of the PDF file");
     guide_.during([this] { guide_.click("cmdPrint"); }, "The file dialog",
                   [this] {
                       auto& name = guide_.control<QLineEdit>("fileNameEdit");
                       name.setFocus();
                       name.selectAll();
                       guide_.type(pdf_);
+                      guide_.picture("file-dialog");
                       guide_.key(Qt::Key_Return);
                   });
-    const QString status = guide_.control<QLabel>("lblStatus").text();
-    guide_.require(status == "Report saved as " + pdf_ + '.', "The word of the saved report (" + status + ')');
+    guide_.waitForStatus("Report saved as " + pdf_ + '.');
     guide_.require(QFile(pdf_).size() > 0, "The PDF file");
     guide_.picture("reports-saved");
 }

@@ -16,6 +16,7 @@ private:
     void openRegistration();
     void startChild();
     void fillChild();
+    void fillParents();
     void saveChild();
     void findChild();
     void addSchool();

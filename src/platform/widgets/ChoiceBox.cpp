@@ -1,5 +1,6 @@
 #include "ChoiceBox.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 #include "FilteredEdit.h"
@@ -40,11 +41,21 @@ void ChoiceBox::setLimits(KeyFilter filter, int maxLength) {
 void ChoiceBox::typed() { Q_EMIT edited(text()); }
 
 void ChoiceBox::keyPressEvent(QKeyEvent* event) {
-    const bool clears = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
-    if (!clears || options_ & FreeText) return ListCombo::keyPressEvent(event);
+    if (options_ & FreeText) return ListCombo::keyPressEvent(event);
+    if (event->key() != Qt::Key_Backspace && event->key() != Qt::Key_Delete) return searchKey(event);
     if (text().isEmpty()) return;
     setText({});
     Q_EMIT edited({});
+}
+
+/// A blank within an entry's name that is being typed belongs to the name; else it opens the list.
+void ChoiceBox::searchKey(QKeyEvent* event) {
+    const bool typing = lastTyped_.isValid() && !lastTyped_.hasExpired(QApplication::keyboardInputInterval());
+    const bool blank = event->key() == Qt::Key_Space;
+    if (!event->text().isEmpty() && (typing || !blank)) lastTyped_.start();
+    if (!blank || !typing) return ListCombo::keyPressEvent(event);
+    QKeyEvent letter(event->type(), Qt::Key_unknown, event->modifiers(), event->text());
+    ListCombo::keyPressEvent(&letter);
 }
 
 void ChoiceBox::focusOutEvent(QFocusEvent* event) {

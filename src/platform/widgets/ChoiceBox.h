@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QStringList>
 
 #include "ListCombo.h"
@@ -37,8 +38,11 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void searchKey(QKeyEvent* event);
+
     Options options_;
-    int strangerIndex_ = -1;  ///< of the shown value that is none of the list's own
+    QElapsedTimer lastTyped_;  ///< a letter of an entry's name
+    int strangerIndex_ = -1;   ///< of the shown value that is none of the list's own
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(ChoiceBox::Options)

@@ -1,5 +1,6 @@
 #include "platform/widgets/DesktopDialogs.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -80,6 +81,7 @@ BoxAnswer DesktopDialogs::box(BoxKind kind, BoxButtons buttons, const QString& t
     const bool destroys = buttons == BoxButtons::YesNo && title.contains(QStringLiteral("Delete"), Qt::CaseInsensitive);
     QMessageBox message(QMessageBox::NoIcon, title, text, offered.all, QApplication::activeWindow());
     message.setIconPixmap(QIcon(pictureOf(kind)).pixmap(QSize(40, 40), message.devicePixelRatioF()));
+    for (QAbstractButton* button : message.buttons()) button->setIcon({});
     message.setTextFormat(Qt::PlainText);
     message.setDefaultButton(destroys ? offered.closing : offered.usual);
     message.setEscapeButton(offered.closing);

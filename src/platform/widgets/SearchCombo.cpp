@@ -43,6 +43,11 @@ void SearchCombo::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void SearchCombo::focusInEvent(QFocusEvent* event) {
+    ListCombo::focusInEvent(event);
+    if (event->reason() != Qt::MouseFocusReason && !typing_) edit()->selectAll();
+}
+
 void SearchCombo::focusOutEvent(QFocusEvent* event) {
     ListCombo::focusOutEvent(event);
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason && typing_) take();
@@ -51,6 +56,7 @@ void SearchCombo::focusOutEvent(QFocusEvent* event) {
 void SearchCombo::settleOn(int index) {
     typing_ = false;
     shown_ = list().index(index);
+    if (hasFocus()) edit()->selectAll();
 }
 
 void SearchCombo::take() {
@@ -58,15 +64,13 @@ void SearchCombo::take() {
     const int shown = currentIndex();
     const int index = shown >= 0 && entryAt(shown) == text ? shown : text.isEmpty() ? -1 : list().firstWithPrefix(text);
     if (index < 0) return revert();
-    settleOn(index);
     showEntry(index, entryAt(index));
-    edit()->selectAll();
+    settleOn(index);
     Q_EMIT picked(index);
 }
 
 void SearchCombo::revert() {
-    typing_ = false;
     const int index = shown_.isValid() ? shown_.row() : -1;
     showEntry(index, entryAt(index));
-    edit()->selectAll();
+    settleOn(index);
 }
