@@ -2,6 +2,7 @@
 
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
+#include "setup/frmOptions.h"
 #include "setup/frmSetup.h"
 #include "shell/EmptyScreen.h"
 #include "shell/Program.h"
@@ -21,4 +22,7 @@ void registerScreens(Program& program) {
     screens.addScreen("frmSetup", [&program] { return std::make_unique<frmSetup>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
+    screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });
+    screens.addForm("frmOptions.CustomFields",
+                    [&program] { return std::make_unique<frmOptions>(program, frmOptions::Page::CustomFields); });
 }

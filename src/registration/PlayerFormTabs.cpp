@@ -12,11 +12,6 @@
 
 namespace {
 
-/// Yes is choice 0, as the row keeps it.
-FlagBinding yesIsZero(Whole& choice) {
-    return {[&choice] { return choice == 0; }, [&choice](bool yes) { choice = yes ? 0 : 1; }};
-}
-
 /// A grade is kept in two letters: "PK", "Co", "K", "7".
 QString shownGrade(const QString& kept) {
     if (kept == u"PK") return QStringLiteral("Pre-K");
@@ -141,7 +136,7 @@ void PlayerPane::addCustomTab(FormBuilder& builder) {
     define->setAutoDefault(false);
     define->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     connect(define, &QPushButton::clicked, this, [this] {
-        program().screens.show(QStringLiteral("frmOptions"));
+        program().screens.show(QStringLiteral("frmOptions.CustomFields"));
         showCustomLabels();
     });
     builder.custom(define)

@@ -31,40 +31,47 @@ bool DefaultsRecord::FindFirstDefaultsRecord(bool show, bool load) {
     return firstOrTell(show, load, {"Record Not Found...", "No Defaults Records found.", ""});
 }
 
+void clsOptions::loadBoth() {
+    if (!FindFirstOptionsRecord(false, true)) {
+        NewOptionsRecord();
+        ShowSplashScreen = true;
+        SaveOptionsRecord();
+    }
+    if (!FindFirstDefaultsRecord(false, true)) {
+        NewDefaultsRecord();
+        SaveDefaultsRecord();
+    }
+}
+
+void clsOptions::fillGlobals() const {
+    const QDate today = OptionsRecord::context().clock.today();
+    const auto numericOr = [](const QString& text, const QString& otherwise) { return isNumeric(text) ? text : otherwise; };
+    const QString none = QStringLiteral("0.00");
+    const QString first = QStringLiteral("1");
+    Globals& globals = OptionsRecord::context().globals;
+    globals.organizationName = OrganizationName;
+    globals.organizationAffiliation = OrgAffiliation;
+    globals.lastBackupDate = LastBackupDate() == QDate(1940, 1, 1) ? today : LastBackupDate();
+    globals.currentSeasonYear = numericOr(CurrentSeasonYear, QString::number(today.year()));
+    globals.showSplash = ShowSplashScreen;
+    globals.defaultFilePath = DefaultFilePath;
+    globals.defaultDatabasePath = DefaultDatabasePath;
+    globals.defaultPlayerFee = numericOr(DefaultPlayerFee, none);
+    globals.defaultSponsorFee = numericOr(DefaultSponsorFee, none);
+    globals.defaultFundRaiserFee = numericOr(DefaultFundRaiserFee, none);
+    globals.defaultTeamFee = numericOr(DefaultTeamFee, none);
+    globals.defaultCity = DefaultCity;
+    globals.defaultStateId = DefaultStateId;
+    globals.defaultZipCode = DefaultZipCode;
+    globals.defaultPostalCode = DefaultPostalCode;
+    globals.defaultAreaCode = DefaultAreaCode;
+    globals.defaultDateFormat = DefaultDateFormat().isEmpty() ? QStringLiteral("M/d/yyyy") : DefaultDateFormat();
+    globals.defaultAgeCutoffMonth = numericOr(DefaultAgeCutoffMonth, first);
+    globals.defaultAgeCutoffDay = numericOr(DefaultAgeCutoffDay, first);
+}
+
 void loadGlobals(StoreContext& context) {
     clsOptions options(context);
-    if (!options.FindFirstOptionsRecord(false, true)) {
-        options.NewOptionsRecord();
-        options.ShowSplashScreen = true;
-        options.SaveOptionsRecord();
-    }
-    if (!options.FindFirstDefaultsRecord(false, true)) {
-        options.NewDefaultsRecord();
-        options.SaveDefaultsRecord();
-    }
-    const QDate today = context.clock.today();
-    const auto numericOr = [](const QString& text, const char* otherwise) {
-        return isNumeric(text) ? text : QString::fromLatin1(otherwise);
-    };
-    Globals& globals = context.globals;
-    globals.organizationName = options.OrganizationName;
-    globals.organizationAffiliation = options.OrgAffiliation;
-    const bool neverBackedUp = options.LastBackupDate() == QDate(1940, 1, 1);
-    globals.lastBackupDate = neverBackedUp ? today : options.LastBackupDate();
-    globals.currentSeasonYear = isNumeric(options.CurrentSeasonYear()) ? options.CurrentSeasonYear() : QString::number(today.year());
-    globals.showSplash = options.ShowSplashScreen;
-    globals.defaultFilePath = options.DefaultFilePath;
-    globals.defaultDatabasePath = options.DefaultDatabasePath;
-    globals.defaultPlayerFee = numericOr(options.DefaultPlayerFee, "0.00");
-    globals.defaultSponsorFee = numericOr(options.DefaultSponsorFee, "0.00");
-    globals.defaultFundRaiserFee = numericOr(options.DefaultFundRaiserFee, "0.00");
-    globals.defaultTeamFee = numericOr(options.DefaultTeamFee, "0.00");
-    globals.defaultCity = options.DefaultCity;
-    globals.defaultStateId = options.DefaultStateId;
-    globals.defaultZipCode = options.DefaultZipCode;
-    globals.defaultPostalCode = options.DefaultPostalCode;
-    globals.defaultAreaCode = options.DefaultAreaCode;
-    globals.defaultDateFormat = options.DefaultDateFormat().isEmpty() ? QStringLiteral("M/d/yyyy") : options.DefaultDateFormat();
-    globals.defaultAgeCutoffMonth = numericOr(options.DefaultAgeCutoffMonth, "1");
-    globals.defaultAgeCutoffDay = numericOr(options.DefaultAgeCutoffDay, "1");
+    options.loadBoth();
+    options.fillGlobals();
 }

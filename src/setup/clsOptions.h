@@ -92,8 +92,14 @@ public:
 class clsOptions final : public OptionsRecord, public DefaultsRecord {
 public:
     explicit clsOptions(StoreContext& context) : OptionsRecord(context), DefaultsRecord(context) {}
+
+    /// Loads both rows. A file that has no options or defaults row yet is a new one: it gets its first rows, with the
+    /// splash on.
+    void loadBoth();
+    /// Puts the properties as they stand, saved or not, into the program's globals, with the fallbacks for what is
+    /// missing or no number.
+    void fillGlobals() const;
 };
 
-/// Fills the program's globals from both rows, with the fallbacks for what is missing or no number. A file that has
-/// no options or defaults row yet is a new one: it gets its first rows, with the splash on.
+/// Loads the preferences and fills the program's globals: what the start needs of them.
 void loadGlobals(StoreContext& context);

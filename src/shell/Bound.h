@@ -14,3 +14,7 @@ inline FlagBinding flagBinding(Flag& flag) {
 inline DateBinding dateBinding(Day& day) {
     return {[&day] { return day(); }, [&day](QDate value) { day = value; }};
 }
+/// A Yes/No pair kept as the place of its answer: 0 is Yes, 1 is No.
+inline FlagBinding yesIsZero(Whole& choice) {
+    return {[&choice] { return choice == 0; }, [&choice](bool yes) { choice = yes ? 0 : 1; }};
+}

@@ -28,3 +28,7 @@ struct Program {
 inline constexpr char dataFileName[] = "Kestrelmoor.kmr";
 inline constexpr char baseFileName[] = "Kestrelmoor.base";  ///< the empty data file with which a first start begins
 inline constexpr char helpFileName[] = "Kestrelmoor.hlp";
+
+/// Where the settings keep the path of the data file.
+inline constexpr char pathSection[] = "Database";
+inline constexpr char pathKey[] = "Path";

@@ -9,12 +9,15 @@
 
 namespace {
 
-constexpr char section[] = "Database";
-constexpr char key[] = "Path";
-
 QString tr(const char* text) { return QCoreApplication::translate("StartRoutine", text); }
 
 }  // namespace
+
+FileRequest dataFileRequest() {
+    return {.title = tr("Select the location of the Kestrelmoor.kmr file..."),
+            .filters = tr("Kestrelmoor Data File (*.kmr)|*.kmr|All Files (*.*)|*.kmr"),
+            .defaultSuffix = ".kmr"};
+}
 
 StartRoutine::StartRoutine(Program& program, StartSteps steps) : program_(program), steps_(std::move(steps)) {}
 
@@ -30,7 +33,7 @@ StartRoutine::Outcome StartRoutine::Main() {
 
 StartRoutine::Outcome StartRoutine::run() {
     QString& path = program_.store.dataFilePath;
-    path = storedPath_ = program_.settings.read(section, key);
+    path = storedPath_ = program_.settings.read(pathSection, pathKey);
     if (path.isEmpty()) {
         path = firstPath();
         savePath();
@@ -67,13 +70,10 @@ QString StartRoutine::firstPath() const {
 /// Asks until there is a path of an existing file, and keeps it. False when the user wants to end the program.
 bool StartRoutine::searchDataFile() {
     Dialogs& dialogs = program_.dialogs();
-    const FileRequest request{.title = tr("Select the location of the Kestrelmoor.kmr file..."),
-                              .filters = tr("Kestrelmoor Data File (*.kmr)|*.kmr|All Files (*.*)|*.kmr"),
-                              .defaultSuffix = ".kmr"};
     dialogs.error(tr("Data File Not Found"), tr("The Kestrelmoor data file was not found.  Please select ") + '\n' +
                                                  tr("the path of your Kestrelmoor.kmr file."));
     while (true) {
-        const std::optional<QString> path = dialogs.openFile(request);
+        const std::optional<QString> path = dialogs.openFile(dataFileRequest());
         if (!path) {
             const QString question = tr("You must select the location of") + '\n' +
                                      tr("Kestrelmoor.kmr data file to continue.") + "\n\n" +
@@ -98,12 +98,12 @@ bool StartRoutine::searchDataFile() {
 }
 
 void StartRoutine::savePath() {
-    if (program_.settings.write(section, key, program_.store.dataFilePath)) return;
+    if (program_.settings.write(pathSection, pathKey, program_.store.dataFilePath)) return;
     program_.dialogs().warning(tr("Kestrelmoor"), tr("The location of the data file could not be stored in your "
                                                      "settings.\nThe next start will ask for it again."));
 }
 
 /// A file picked in this start that turned out useless must not be the one that the next start opens.
 void StartRoutine::forgetPickedFile() {
-    if (picked_) program_.settings.write(section, key, storedPath_);
+    if (picked_) program_.settings.write(pathSection, pathKey, storedPath_);
 }

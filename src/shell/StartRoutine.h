@@ -4,6 +4,9 @@
 
 #include "shell/Program.h"
 
+/// The dialog in which a user picks a data file.
+FileRequest dataFileRequest();
+
 /// What the start asks of parts that it does not know.
 struct StartSteps {
     std::function<bool()> correctVersion;   ///< brings the data file to the current version; false: it could not

@@ -1,3 +1,4 @@
+#include "setup/frmOptions.h"
 #include "shell/ScreenTable.h"
 #include "support/Printing.h"
 #include "support/RunningProgram.h"
@@ -12,7 +13,7 @@
 namespace {
 
 /// Everything in view that answers to Alt and a letter, as "letter: what".
-QStringList accessKeys(Screen& screen) {
+QStringList accessKeys(QWidget& screen) {
     QStringList keys;
     const auto note = [&keys](const QString& text) {
         const QKeySequence key = QKeySequence::mnemonic(text);
@@ -24,30 +25,35 @@ QStringList accessKeys(Screen& screen) {
         if (button->isVisible() && !button->inherits("QToolButton")) note(button->text());
     for (const QGroupBox* group : screen.findChildren<QGroupBox*>())
         if (group->isVisible()) note(group->title());
-    for (const QAction* menu : screen.menuBar()->actions()) note(menu->text());
+    for (const QMenuBar* bar : screen.findChildren<QMenuBar*>())
+        for (const QAction* menu : bar->actions()) note(menu->text());
     keys.sort();
     return keys;
 }
 
-void expectNoTwoAlike(Screen& screen, const QString& where) {
+void expectNoTwoAlikeOnPage(QWidget& screen, const QString& where) {
     const QStringList keys = accessKeys(screen);
     for (qsizetype i = 1; i < keys.size(); ++i)
         EXPECT_NE(keys[i].section(u':', 0, 0), keys[i - 1].section(u':', 0, 0))
             << where.toStdString() << ": " << keys[i - 1].toStdString() << " and " << keys[i].toStdString();
 }
 
+void expectNoTwoAlike(QWidget& screen) {
+    const QString name = screen.objectName();
+    expectNoTwoAlikeOnPage(screen, name);
+    for (QTabWidget* each : screen.findChildren<QTabWidget*>())
+        for (int tab = 0; tab < each->count(); ++tab) {
+            each->setCurrentIndex(tab);
+            if (each->isVisible()) expectNoTwoAlikeOnPage(screen, name + u' ' + each->tabText(tab));
+        }
+}
+
 TEST(AccessKeysTest, NoTwoOnAPageAreAlike) {
     RunningProgram running;
-    for (const ScreenEntry& entry : screenTable) {
-        Screen* screen = running.open(QString(entry.name).toLatin1());
-        const auto tabs = screen->findChildren<QTabWidget*>();
-        expectNoTwoAlike(*screen, entry.name);
-        for (QTabWidget* each : tabs)
-            for (int tab = 0; tab < each->count(); ++tab) {
-                each->setCurrentIndex(tab);
-                if (each->isVisible()) expectNoTwoAlike(*screen, QString(entry.name) + u' ' + each->tabText(tab));
-            }
-    }
+    for (const ScreenEntry& entry : screenTable) expectNoTwoAlike(*running.open(entry.name));
+    frmOptions options(running.program);
+    options.show();
+    expectNoTwoAlike(options);
 }
 
 }  // namespace
