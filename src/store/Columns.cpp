@@ -19,7 +19,8 @@ void Text::blank() {
 }
 
 void Text::read(const datafile::Value& value) {
-    value_ = datafile::toText(value);
+    if (const auto* text = std::get_if<QString>(&value)) value_ = *text;
+    else value_ = datafile::toText(value);
     const bool keep = rule_.kind == TextRule::Kind::AsStored ||
                       (rule_.kind == TextRule::Kind::FilledElse ? !value_.isEmpty() : isNumeric(value_));
     if (!keep) value_ = QString::fromLatin1(rule_.otherwise);
