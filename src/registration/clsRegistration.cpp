@@ -139,10 +139,9 @@ QString clsRegistration::twinCriteria() const { return criteriaOf({PlayerLastNam
 void clsRegistration::whileDeleting(datafile::Recordset& row) { row.set(QStringLiteral("PlayerActive"), false); }
 
 bool clsRegistration::FindPlayerRecord(const QString& key, bool show, bool load) {
-    if (recordCount() == 0) return false;
     const PlayerKey wanted = PlayerKey::parse(key);
     if (find(criteriaOf(wanted), load)) return true;
-    if (show)
+    if (show && recordCount() > 0)
         context().dialogs.information(
             {}, QStringLiteral("No Records found for %1, %2.").arg(wanted.lastName, wanted.firstName));
     return false;

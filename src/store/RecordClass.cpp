@@ -58,7 +58,8 @@ void RecordClass::clearFlags() {
 void RecordClass::load() {
     if (main_->bof() || main_->eof()) return;
     if (!rules_.loadsDeleted && main_->flag(QStringLiteral("DeletedFlag"))) return blank();
-    for (Column* column : columns_) column->read(main_->value(column->field_));
+    const datafile::Values& row = main_->row();
+    for (Column* column : columns_) column->read(row[static_cast<size_t>(column->field_)]);
 }
 
 void RecordClass::blank() {
@@ -125,7 +126,7 @@ bool RecordClass::isValid(bool showError) const {
 
 void RecordClass::save(StampSource stamps) {
     if (!isChanged() || !isValid(false)) return;
-    const bool adding = new_ || main_->recordCount() == 0;
+    const bool adding = new_ || (main_->bookmark() == 0 && main_->recordCount() == 0);
     beforeWrite(adding, stamps);
     if (!adding) {
         main_->edit();

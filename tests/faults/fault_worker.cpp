@@ -3,6 +3,7 @@
 
 #include "registration/clsRegistration.h"
 #include "store/CorrectVersion.h"
+#include "support/QuietDialogs.h"
 
 // One piece of work on a league's data file, done in a process of its own so that it may be ended midway:
 //
@@ -12,21 +13,6 @@
 // tries a second time, and a second line says what came of it.
 
 namespace {
-
-/// Dialogs that keep the last text instead of showing it.
-class QuietDialogs final : public Dialogs {
-public:
-    BoxAnswer box(BoxKind, BoxButtons, const QString&, const QString& text) override {
-        last = text;
-        return BoxAnswer::Ok;
-    }
-    std::optional<QString> openFile(const FileRequest&) override { return {}; }
-    std::optional<QString> saveFile(const FileRequest&) override { return {}; }
-    int showModal(QDialog&) override { return 0; }
-    bool openAddress(const QUrl&) override { return false; }
-
-    QString last;
-};
 
 constexpr char done[] = "done";
 

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QVarLengthArray>
 #include <QtEndian>
 #include <sqlite3.h>
 #include <utility>
@@ -22,18 +23,19 @@ constexpr int mostIdleStatements = 400;
 
 /// Texts joined, nothing read as "".
 void joined(sqlite3_context* context, int count, sqlite3_value** values) {
-    QByteArray text;
-    text.reserve(96);
-    for (int i = 0; i < count; ++i)
-        if (const auto* part = sqlite3_value_text(values[i]))
-            text.append(reinterpret_cast<const char*>(part), sqlite3_value_bytes(values[i]));
+    QVarLengthArray<char, 256> text;
+    for (int i = 0; i < count; ++i) {
+        const int size = sqlite3_value_bytes(values[i]);
+        text.append(static_cast<const char*>(sqlite3_value_blob(values[i])), size);
+    }
     sqlite3_result_text(context, text.constData(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
 }
 
 /// "2026-04-02" as "4/2/2026"; what is no date stays as it is.
 void shortDate(sqlite3_context* context, int, sqlite3_value** values) {
-    const auto* iso = reinterpret_cast<const char*>(sqlite3_value_text(values[0]));
-    if (!iso || sqlite3_value_bytes(values[0]) < 10 || iso[4] != '-' || iso[7] != '-')
+    const int size = sqlite3_value_bytes(values[0]);
+    const auto* iso = static_cast<const char*>(sqlite3_value_blob(values[0]));
+    if (size < 10 || iso[4] != '-' || iso[7] != '-')
         return sqlite3_result_value(context, values[0]);
     char text[11];
     int at = 0;
@@ -119,8 +121,9 @@ QString Statement::declaredType(int column) const { return QString::fromUtf8(sql
 qint64 Statement::number(int column) const { return sqlite3_column_int64(statement_, column); }
 
 QString Statement::text(int column) const {
-    const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
-    return QString::fromUtf8(bytes, bytes ? sqlite3_column_bytes(statement_, column) : 0);
+    const int size = sqlite3_column_bytes(statement_, column);  // makes it UTF-8; what follows need not end it with a 0
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement_, column));
+    return QString::fromUtf8(bytes ? bytes : "", size);
 }
 
 Value Statement::value(int column) const {

@@ -86,7 +86,8 @@ public:
     /// Nested transactions count as part of the outermost: where one is rolled back, or the disk fails in it, nothing
     /// more can be done until the outermost is rolled back too. `schema`: relations are not watched until the commit.
     void begin(bool schema);
-    /// When it raises, nothing was written: a commit that reports a failure is looked up in the file before that is said.
+    /// When it raises, nothing was written: a commit that reports a failure is looked up in the file before that is
+    /// said.
     void commit();
     void rollback();
     /// Runs `work` as a transaction of its own, or as part of the open one.

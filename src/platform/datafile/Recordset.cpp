@@ -47,6 +47,10 @@ Value converted(const Value& value, ColumnType type, const QString& column) {
     return value;
 }
 
+[[noreturn]] void refuseRemoved() {
+    throw Error(Fault::NoCurrentRecord, tr("The record was removed in the meantime."));
+}
+
 }  // namespace
 
 Recordset::Recordset(std::shared_ptr<Connection> connection, const QString& source, Type type)
@@ -60,8 +64,11 @@ void Recordset::open() {
     epoch_ = connection_->epoch();
     query_ = dialect::translateQuery(shape_.text, [this](const QString& name) { return connection_->table(name); });
     if (query_.table.isEmpty()) type_ = Type::Snapshot;
-    if (type_ == Type::Dynaset)
+    if (type_ == Type::Dynaset) {
         rowSql_ = QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?").arg(query_.columns, sql::identifier(query_.table));
+        blockSql_ = QStringLiteral("SELECT %1, rowid FROM %2 WHERE rowid IN (%3)")
+                        .arg(query_.columns, sql::identifier(query_.table), QStringLiteral("?,").repeated(qsizetype{readAheadRows}).chopped(1));
+    }
     describe();
     requery();
 }
@@ -115,7 +122,7 @@ Values Recordset::keyValues(const Values& criteria) const {
 void Recordset::requery() {
     if (epoch_ != connection_->epoch()) return open();
     keys_.reset();
-    ahead_.clear();
+    aheadEnd_ = 0;
     rowLoaded_ = false;
     mode_ = EditMode::None;
     position_ = -1;
@@ -284,11 +291,11 @@ void Recordset::setBookmark(Bookmark row) {
     standOn(row);
 }
 
-const Value& Recordset::value(int field) {
+const Values& Recordset::row() {
     refreshAfterReplacement();
     if (place_ != Place::Row) throw Error(Fault::NoCurrentRecord, tr("There is no current record."));
     if (!rowLoaded_ || (type_ == Type::Dynaset && rowChanges_ != connection_->changes())) loadRow();
-    return row_[static_cast<size_t>(field)];
+    return row_;
 }
 
 void Recordset::loadRow() {
@@ -301,38 +308,42 @@ void Recordset::loadRow() {
     if (sequentialMoves_ >= 2 && position_ >= 0) return readAhead();
     Statement statement(*connection_, rowSql_);
     statement.bind(shape_.values, 0, static_cast<size_t>(query_.columnValues));
-    if (!statement.bind(Value{current_}).step())
-        throw Error(Fault::NoCurrentRecord, tr("The record was removed in the meantime."));
-    row_.resize(fields_.size());
-    for (int i = 0; i < fieldCount(); ++i) row_[static_cast<size_t>(i)] = statement.value(i);
+    if (!statement.bind(Value{current_}).step()) refuseRemoved();
+    readRow(statement, row_);
     rowLoaded_ = true;
 }
 
-/// A walk through many rows reads them in blocks, one read transaction each; any write makes the block stale.
+void Recordset::readRow(const Statement& statement, Values& into) const {
+    into.resize(fields_.size());
+    for (int i = 0; i < fieldCount(); ++i) into[static_cast<size_t>(i)] = statement.value(i);
+}
+
+/// A walk through many rows reads them in blocks, each in one go; any write makes the block stale.
 void Recordset::readAhead() {
     const size_t at = static_cast<size_t>(position_);
-    if (at < aheadFrom_ || at >= aheadFrom_ + ahead_.size() || aheadChanges_ != connection_->changes()) {
-        ahead_.clear();
-        aheadFrom_ = at;
-        aheadChanges_ = connection_->changes();
-        const bool alone = !connection_->inTransaction();
-        if (alone) Statement(*connection_, QStringLiteral("BEGIN")).run();
-        {
-            for (size_t i = at; i < std::min(at + readAheadRows, keys_->size()); ++i) {
-                Statement statement(*connection_, rowSql_);
-                statement.bind(shape_.values, 0, static_cast<size_t>(query_.columnValues));
-                Values& row = ahead_.emplace_back();
-                if (!statement.bind(Value{(*keys_)[i]}).step()) continue;
-                row.reserve(fields_.size());
-                for (int field = 0; field < fieldCount(); ++field) row.push_back(statement.value(field));
-            }
-        }
-        if (alone) Statement(*connection_, QStringLiteral("COMMIT")).run();
-    }
-    row_ = std::move(ahead_[at - aheadFrom_]);
-    if (row_.empty()) throw Error(Fault::NoCurrentRecord, tr("The record was removed in the meantime."));
+    if (at < aheadNext_ || at >= aheadEnd_ || aheadChanges_ != connection_->changes()) readBlock(at);
+    aheadNext_ = at + 1;
+    std::swap(row_, ahead_[at - aheadFrom_]);
+    if (row_.empty()) refuseRemoved();
     rowLoaded_ = true;
-    if (at + 1 == aheadFrom_ + ahead_.size()) ahead_.clear();
+}
+
+void Recordset::readBlock(size_t at) {
+    ahead_.resize(readAheadRows);
+    for (Values& row : ahead_) row.clear();
+    const auto from = keys_->begin() + static_cast<std::ptrdiff_t>(at);
+    const size_t count = std::min(readAheadRows, keys_->size() - at);
+    aheadFrom_ = at;
+    aheadEnd_ = at;
+    aheadChanges_ = connection_->changes();
+    Statement statement(*connection_, blockSql_);
+    statement.bind(shape_.values, 0, static_cast<size_t>(query_.columnValues));
+    for (size_t i = 0; i < readAheadRows; ++i) statement.bind(Value{from[static_cast<std::ptrdiff_t>(std::min(i, count - 1))]});
+    while (statement.step()) {
+        const auto place = std::find(from, from + static_cast<std::ptrdiff_t>(count), statement.number(fieldCount()));
+        readRow(statement, ahead_[static_cast<size_t>(place - from)]);
+    }
+    aheadEnd_ = at + count;
 }
 
 void Recordset::addNew() {
@@ -394,7 +405,7 @@ void Recordset::writeRow() {
     const qint64 before = connection_->changes();
     Statement write(*connection_, QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?").arg(table, names.join(QStringLiteral(" = ?, "))));
     write.bind(values).bind(Value{current_}).run();
-    if (connection_->changes() == before) throw Error(Fault::NoCurrentRecord, tr("The record was removed in the meantime."));
+    if (connection_->changes() == before) refuseRemoved();
 }
 
 void Recordset::remove() {
@@ -407,7 +418,7 @@ void Recordset::remove() {
         row.bind(Value{current_}).run();
     });
     keys_->erase(keys_->begin() + at);
-    ahead_.clear();
+    aheadEnd_ = 0;
     position_ = at;
     place_ = Place::Gap;
     rowLoaded_ = false;

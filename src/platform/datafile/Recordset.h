@@ -10,6 +10,7 @@
 namespace datafile {
 
 class Connection;
+class Statement;
 
 /// A cursor on the rows of a table or query.
 ///
@@ -64,8 +65,9 @@ public:
     /// Raises Error(Statement) for an unknown name.
     int field(const QString& name) const;
 
-    /// The current row's value as it stands in the file.
-    const Value& value(int field);
+    /// The current row's values as they stand in the file, in the order of the fields. Good until the next call.
+    const Values& row();
+    const Value& value(int field) { return row()[static_cast<size_t>(field)]; }
     const Value& value(const QString& name) { return value(field(name)); }
     QString text(const QString& name) { return toText(value(field(name))); }
     qint64 number(const QString& name, qint64 otherwise = 0) { return toNumber(value(field(name)), otherwise); }
@@ -97,6 +99,8 @@ private:
     int position();
     void loadRow();
     void readAhead();
+    void readBlock(size_t at);
+    void readRow(const Statement& statement, Values& into) const;
     void readSnapshot();
     QString rowsOf(const char* wanted, const QString& criteria) const;
     QString keyQuery(const QString& criteria, const char* ending) const;
@@ -107,7 +111,8 @@ private:
     Type type_;
     dialect::Shape shape_;
     dialect::Query query_;
-    QString rowSql_;
+    QString rowSql_;                       ///< reads the row of a key
+    QString blockSql_;                     ///< reads the rows of as many keys as a block has, each with its key behind it
     std::vector<Field> fields_;
     QHash<QString, int> fieldByName_;      ///< lower-case name
     QHash<QString, QString> findSql_;      ///< criteria shape -> statement
@@ -123,8 +128,10 @@ private:
     bool rowLoaded_ = false;
     qint64 rowChanges_ = 0;                ///< the connection's count of changes when the row was read
     int sequentialMoves_ = 0;
-    std::vector<Values> ahead_;            ///< rows after the current one, read in one go
-    size_t aheadFrom_ = 0;
+    std::vector<Values> ahead_;            ///< a block of rows read in one go; its storage is used again
+    size_t aheadFrom_ = 0;                 ///< position of the block's first row
+    size_t aheadNext_ = 0;                 ///< of the first row that was not taken out of it yet
+    size_t aheadEnd_ = 0;
     qint64 aheadChanges_ = 0;
     std::vector<Values> snapshot_;
 

@@ -8,7 +8,9 @@
 namespace {
 
 bool isAscii(QStringView text) {
-    return std::all_of(text.begin(), text.end(), [](QChar character) { return character.unicode() < 128; });
+    char16_t all = 0;
+    for (const QChar character : text) all |= character.unicode();
+    return all < 128;
 }
 
 /// Letters that are no plain letter with a mark, and the plain letters they stand beside.
@@ -37,15 +39,22 @@ QLatin1String plainLetters(QChar character) {
 
 /// The text with plain letters for accented ones.
 QString plain(const QString& text) {
-    if (isAscii(text)) return text;
+    const auto isPlain = [](QChar character) { return character.unicode() < 128; };
     QString result;
-    for (const QChar character : text.normalized(QString::NormalizationForm_KD)) {
-        if (character.isMark()) continue;
-        const QLatin1String letters = plainLetters(character);
-        if (letters.isEmpty())
-            result += character.toLower();
-        else
-            result += letters;
+    result.reserve(text.size());
+    for (auto at = text.begin(); at != text.end();) {
+        const auto accented = std::find_if_not(at, text.end(), isPlain);
+        result += QStringView(at, accented);
+        at = std::find_if(accented, text.end(), isPlain);
+        if (accented == at) continue;
+        for (const QChar character : QString(accented, at - accented).normalized(QString::NormalizationForm_KD)) {
+            if (character.isMark()) continue;
+            const QLatin1String letters = plainLetters(character);
+            if (letters.isEmpty())
+                result += character.toLower();
+            else
+                result += letters;
+        }
     }
     return result;
 }
@@ -56,17 +65,18 @@ public:
     explicit Weights(QStringView text) : rest_(text) {}
     bool atEnd() const { return rest_.isEmpty(); }
     char16_t next() {
-        for (const QStringView separator : {QStringView(u", "), QStringView(u" - ")}) {
-            if (!rest_.startsWith(separator)) continue;
-            rest_ = rest_.sliced(separator.size());
-            return 0;
-        }
         const char16_t character = rest_.front().unicode();
-        rest_ = rest_.sliced(1);
+        const qsizetype separator = character == u',' && at(1) == u' '                    ? 2
+                                    : character == u' ' && at(1) == u'-' && at(2) == u' ' ? 3
+                                                                                          : 0;
+        rest_ = rest_.sliced(std::max<qsizetype>(separator, 1));
+        if (separator > 0) return 0;
         return character >= u'A' && character <= u'Z' ? char16_t(character + (u'a' - u'A')) : character;
     }
 
 private:
+    char16_t at(qsizetype index) const { return index < rest_.size() ? rest_[index].unicode() : u'\0'; }
+
     QStringView rest_;
 };
 
@@ -78,22 +88,26 @@ int compareWeights(QStringView left, QStringView right) {
     return int(rightWeights.atEnd()) - int(leftWeights.atEnd());
 }
 
-/// An entry made ready to be compared often. A copy shares the characters, so its views stay good.
-struct Entry {
-    explicit Entry(const QString& entry) : text(entry), letters(plain(entry)), names(letters) {
-        const qsizetype separator = names.lastIndexOf(u" - ");
-        if (separator < 0 || !names.sliced(separator).contains(u'/')) return;
-        date = names.sliced(separator + 3);
-        names = names.first(separator);
+/// What an entry is compared by. It sees into texts that it does not own.
+struct Key {
+    /// `plainText` is the text with plain letters.
+    Key(QStringView entry, QStringView plainText) : text(entry), names(plainText) {
+        constexpr qsizetype longestDate = 10;
+        const QStringView separator = u" - ";
+        const qsizetype ending = std::max<qsizetype>(names.size() - longestDate - separator.size(), 0);
+        const qsizetype at = names.sliced(ending).lastIndexOf(separator);
+        if (at < 0 || !names.sliced(ending + at).contains(u'/')) return;
+        date = names.sliced(ending + at + separator.size());
+        names = names.first(ending + at);
     }
+    explicit Key(QStringView plainText) : Key(plainText, plainText) {}
 
-    QString text;
-    QString letters;
-    QStringView names;   ///< in letters: all but the date at its end
-    QStringView date{};  ///< in letters
+    QStringView text;
+    QStringView names;  ///< all but the date at its end
+    QStringView date{};
 };
 
-bool less(const Entry& left, const Entry& right) {
+bool less(const Key& left, const Key& right) {
     if (const int difference = compareWeights(left.names, right.names)) return difference < 0;
     if (left.date != right.date) {
         const auto leftDate = parseDate(left.date.toString());
@@ -103,27 +117,48 @@ bool less(const Entry& left, const Entry& right) {
     return left.text.compare(right.text, Qt::CaseInsensitive) < 0;
 }
 
+/// An entry with its key. When it moves, the characters stay where they are.
+struct Entry {
+    explicit Entry(const QString& entry) : text(entry), letters(plain(entry)), key(text, letters) {}
+
+    QString text;
+    QString letters;
+    Key key;
+};
+
+/// Behind all that do not stand behind the key. It is looked for from the end on, in ever longer steps.
+std::vector<QString>::iterator placeOf(const Key& key, std::vector<QString>::iterator begin,
+                                       std::vector<QString>::iterator end) {
+    auto low = end;
+    for (std::ptrdiff_t step = 1; low != begin; step *= 2) {
+        low -= std::min(step, low - begin);
+        if (!less(key, Key(*low))) break;
+        end = low;
+    }
+    return std::upper_bound(low, end, key,
+                            [](const Key& moving, const QString& standing) { return less(moving, Key(standing)); });
+}
+
 }  // namespace
 
-bool listLess(const QString& left, const QString& right) { return less(Entry(left), Entry(right)); }
+bool listLess(const QString& left, const QString& right) { return less(Entry(left).key, Entry(right).key); }
 
 void placeAccented(std::vector<QString>& entries) {
-    const auto end = std::stable_partition(entries.begin(), entries.end(), isAscii);
-    std::vector<Entry> accented(end, entries.end());
-    if (accented.empty()) return;
-    std::stable_sort(accented.begin(), accented.end(), less);
+    std::vector<Entry> accented;
+    auto end = std::remove_if(entries.begin(), entries.end(), [&accented](const QString& entry) {
+        if (isAscii(entry)) return false;
+        accented.emplace_back(entry);
+        return true;
+    });
+    std::stable_sort(accented.begin(), accented.end(),
+                     [](const Entry& left, const Entry& right) { return less(left.key, right.key); });
 
-    std::vector<QString> placed;
-    placed.reserve(entries.size());
-    auto position = entries.begin();
-    for (const Entry& entry : accented) {
-        const auto place = std::upper_bound(position, end, entry, [](const Entry& moving, const QString& standing) {
-            return less(moving, Entry(standing));
-        });
-        placed.insert(placed.end(), std::move_iterator(position), std::move_iterator(place));
-        placed.push_back(entry.text);
-        position = place;
+    // From the last to the first: what stands behind an entry's place moves to the back, and the entry before it.
+    auto gap = entries.end();
+    for (auto entry = accented.rbegin(); entry != accented.rend(); ++entry) {
+        const auto place = placeOf(entry->key, entries.begin(), end);
+        gap = std::move_backward(place, end, gap);
+        *--gap = std::move(entry->text);
+        end = place;
     }
-    placed.insert(placed.end(), std::move_iterator(position), std::move_iterator(end));
-    entries = std::move(placed);
 }

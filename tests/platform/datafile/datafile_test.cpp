@@ -172,6 +172,17 @@ TEST_F(DataFileTest, WalkingManyRowsShowsWritesMadeMeanwhile) {
         if (i == 50) database.execute("UPDATE tblPlayer SET [FirstName] = \"y\"");
     }
     EXPECT_EQ(changed, 149);
+
+    for (int walk = 0; walk < 3; ++walk) {
+        players.moveFirst();
+        for (int i = 0; i < 40; ++i, players.moveNext())
+            ASSERT_EQ(players.text("LastName"), QStringLiteral("P%1").arg(i, 3, 10, QChar('0'))) << "walk " << walk;
+    }
+    database.execute("DELETE FROM tblPlayer WHERE [LastName] = \"P041\"");
+    players.moveNext();
+    EXPECT_EQ(faultOf([&] { players.text("LastName"); }), Fault::NoCurrentRecord);
+    players.moveNext();
+    EXPECT_EQ(players.text("LastName"), "P042");
 }
 
 TEST_F(DataFileTest, RulesOfColumnsAreErrorsThatNameTheColumn) {
