@@ -21,9 +21,9 @@ struct Binding {
     Binding(std::function<QString()> reader, std::function<void(const QString&)> writer, int length = 0)
         : read(std::move(reader)), write(std::move(writer)), maxLength(length) {}
     template <class Column>
-        requires requires(Column& column) {
-            { textBinding(column) } -> std::same_as<Binding>;
-        }
+    requires requires(Column& column) {
+        { textBinding(column) } -> std::same_as<Binding>;
+    }
     Binding(Column& column) : Binding(textBinding(column)) {}
 };
 
@@ -34,9 +34,9 @@ struct FlagBinding {
     FlagBinding(std::function<bool()> reader, std::function<void(bool)> writer)
         : read(std::move(reader)), write(std::move(writer)) {}
     template <class Column>
-        requires requires(Column& column) {
-            { flagBinding(column) } -> std::same_as<FlagBinding>;
-        }
+    requires requires(Column& column) {
+        { flagBinding(column) } -> std::same_as<FlagBinding>;
+    }
     FlagBinding(Column& column) : FlagBinding(flagBinding(column)) {}
 };
 
@@ -48,8 +48,8 @@ struct DateBinding {
     DateBinding(std::function<QDate()> reader, std::function<void(const QDate&)> writer)
         : read(std::move(reader)), write(std::move(writer)) {}
     template <class Column>
-        requires requires(Column& column) {
-            { dateBinding(column) } -> std::same_as<DateBinding>;
-        }
+    requires requires(Column& column) {
+        { dateBinding(column) } -> std::same_as<DateBinding>;
+    }
     DateBinding(Column& column) : DateBinding(dateBinding(column)) {}
 };

@@ -1,9 +1,9 @@
-#include "ChoiceBox.h"
+#include "platform/widgets/ChoiceBox.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 
-#include "FilteredEdit.h"
+#include "platform/widgets/FilteredEdit.h"
 
 ChoiceBox::ChoiceBox(Options options, QWidget* parent) : ListCombo(parent), options_(options) {
     if (options_ & FreeText) makeEditable();

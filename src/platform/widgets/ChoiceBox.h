@@ -3,7 +3,8 @@
 #include <QElapsedTimer>
 #include <QStringList>
 
-#include "ListCombo.h"
+#include "platform/widgets/KeyFilter.h"
+#include "platform/widgets/ListCombo.h"
 
 /// A field whose value comes from a list. A value that the list does not hold is shown all the same.
 class ChoiceBox final : public ListCombo {

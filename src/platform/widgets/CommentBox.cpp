@@ -1,4 +1,4 @@
-#include "CommentBox.h"
+#include "platform/widgets/CommentBox.h"
 
 #include <QKeyEvent>
 #include <QMimeData>

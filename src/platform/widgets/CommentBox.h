@@ -2,7 +2,7 @@
 
 #include <QPlainTextEdit>
 
-#include "KeyFilter.h"
+#include "platform/widgets/KeyFilter.h"
 
 /// A text of several lines with a filter and a length. Like the one-line boxes it judges what its user puts in and
 /// shows a stored text as it stands. Tab moves on to the next field.

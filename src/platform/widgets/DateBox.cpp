@@ -1,12 +1,13 @@
-#include "DateBox.h"
+#include "platform/widgets/DateBox.h"
 
 #include <QAction>
 #include <QCalendarWidget>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QPainter>
 #include <QStyle>
 #include <QVBoxLayout>
+
+#include "platform/text/Dates.h"
 
 namespace {
 
@@ -47,37 +48,20 @@ DateBox::DateBox(QWidget* parent)
 
 void DateBox::setFormat(const QString& format) {
     format_ = format;
-    if (format_.contains(QStringLiteral("yyy")) && !format_.contains(QStringLiteral("yyyy"))) format_.replace(QStringLiteral("yyy"), QStringLiteral("yyyy"));
+    if (format_.count(u'y') == 3) format_.insert(format_.indexOf(u'y'), u'y');
     if (readable_) setDate(date_);
 }
 
 void DateBox::setDate(const QDate& date) {
     date_ = date;
-    setText(QLocale::c().toString(date, format_));
+    setText(formatDate(date, format_));
     mark(true);
-}
-
-QDate DateBox::read(const QString& text, const QString& format) {
-    const QString plain = text.simplified();
-    for (const QString& candidate :
-         {format, QStringLiteral("M/d/yyyy"), QStringLiteral("M/d/yy"), QStringLiteral("yyyy-M-d"),
-          QStringLiteral("MMddyyyy"), QStringLiteral("d-MMM-yyyy"), QStringLiteral("d-MMM-yy"),
-          QStringLiteral("d MMM yyyy"), QStringLiteral("d MMM yy")}) {
-        const QDate date = QLocale::c().toDate(plain, candidate);
-        if (!date.isValid()) continue;
-        const bool shortYear = candidate.contains(u"yy") && !candidate.contains(QStringLiteral("yyyy"));
-        constexpr int lastYearOfThisCentury = 30;
-        if (shortYear && date.year() % 100 <= lastYearOfThisCentury)
-            return date.addYears(2000 - (date.year() / 100) * 100);
-        return date;
-    }
-    return {};
 }
 
 void DateBox::takeTyped() {
     const QString typed = text().simplified();
-    if (typed == QLocale::c().toString(date_, format_)) return mark(true);
-    const QDate date = typed.isEmpty() ? QDate() : read(typed, format_);
+    if (typed == formatDate(date_, format_)) return mark(true);
+    const QDate date = parseDate(typed, format_).value_or(QDate());
     // Half a date is no mistake while it is being typed: the mark comes when the box is left.
     readable_ = typed.isEmpty() || date.isValid();
     wrongAction_->setVisible(false);
@@ -98,7 +82,7 @@ void DateBox::mark(bool readable) {
     wrongAction_->setVisible(!readable);
     const QString message =
         readable ? QString()
-                 : tr("This is no date. Enter one such as %1.").arg(QLocale::c().toString(QDate(2026, 4, 28), format_));
+                 : tr("This is no date. Enter one such as %1.").arg(formatDate(QDate(2026, 4, 28), format_));
     wrongAction_->setToolTip(message);
     setToolTip(message);
     setAccessibleDescription(message);

@@ -2,7 +2,7 @@
 
 #include <QDate>
 
-#include "FilteredEdit.h"
+#include "platform/widgets/FilteredEdit.h"
 
 /// A date, typed or taken from a calendar. What cannot be read as a date stays as typed, is marked, and leaves the
 /// date as it was; a date that was only shown never changes. Up and Down step a day, Page Up and Page Down a month,
@@ -21,10 +21,6 @@ public:
     QDate date() const { return date_; }
     /// False while the box holds a text that is no date.
     bool isReadable() const { return readable_; }
-
-    /// The date that the text means in this format or in a common one; null when it means none. A year of two digits
-    /// is of this century up to 30 and of the last above.
-    static QDate read(const QString& text, const QString& format);
 
 Q_SIGNALS:
     /// The user typed or picked a date, or emptied the box (null).

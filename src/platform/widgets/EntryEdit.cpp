@@ -1,4 +1,4 @@
-#include "EntryEdit.h"
+#include "platform/widgets/EntryEdit.h"
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>

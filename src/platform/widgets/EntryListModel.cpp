@@ -1,4 +1,4 @@
-#include "EntryListModel.h"
+#include "platform/widgets/EntryListModel.h"
 
 #include <algorithm>
 
@@ -18,12 +18,6 @@ int EntryListModel::indexOf(const QString& text) const {
         found = std::find_if(entries_.begin(), entries_.end(), [&](const QString& entry) {
             return entry.size() == text.size() && entry.compare(text, Qt::CaseInsensitive) == 0;
         });
-    return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
-}
-
-int EntryListModel::firstWithPrefix(const QString& text) const {
-    const auto found = std::find_if(entries_.begin(), entries_.end(),
-                                    [&](const QString& entry) { return entry.startsWith(text, Qt::CaseInsensitive); });
     return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
 }
 
@@ -51,6 +45,10 @@ void EntryListModel::remove(int index) {
 }
 
 int EntryListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : size(); }
+
+Qt::ItemFlags EntryListModel::flags(const QModelIndex& index) const {
+    return QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled;
+}
 
 QVariant EntryListModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole && role != Qt::EditRole) return {};

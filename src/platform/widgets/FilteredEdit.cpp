@@ -1,4 +1,4 @@
-#include "FilteredEdit.h"
+#include "platform/widgets/FilteredEdit.h"
 
 #include <limits>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "EntryEdit.h"
-#include "KeyFilter.h"
+#include "platform/widgets/EntryEdit.h"
+#include "platform/widgets/KeyFilter.h"
 
 /// A box that takes only the characters of its filter and only up to its length. A stored text that is longer, or
 /// holds other characters, is shown whole and keeps them until its user takes them out.

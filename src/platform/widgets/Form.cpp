@@ -16,12 +16,11 @@ void Form::addField(Field field) {
     fields_.push_back({std::move(field)});
 }
 
-void Form::addPage(QWidget* page) {
-    pages_.push_back(page);
-}
+void Form::addPage(QWidget* page) { pages_.push_back(page); }
 
 Form::Kept* Form::find(const QString& name) {
-    const auto found = std::find_if(fields_.begin(), fields_.end(), [&](const Kept& field) { return field.name == name; });
+    const auto found =
+        std::find_if(fields_.begin(), fields_.end(), [&](const Kept& field) { return field.name == name; });
     return found == fields_.end() ? nullptr : &*found;
 }
 

@@ -47,7 +47,8 @@ public:
     void addField(Field field);
     /// A widget whose content setFieldsEnabled() switches.
     void addPage(QWidget* page);
-    /// The user edited the field: writes the value, tells of it, and refills the other fields whose values changed by it.
+    /// The user edited the field: writes the value, tells of it, and refills the other fields whose values changed by
+    /// it.
     void edit(const QString& name, const QVariant& value);
 
 Q_SIGNALS:

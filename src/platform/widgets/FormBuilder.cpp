@@ -40,6 +40,7 @@ FormBuilder::FormBuilder(Form* form) : form_(form) {}
 QWidget* FormBuilder::scrolled(QScrollArea* area) {
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
     auto* content = new QWidget;
     page(content);
     area->setWidget(content);

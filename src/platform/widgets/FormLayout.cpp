@@ -1,4 +1,4 @@
-#include "FormLayout.h"
+#include "platform/widgets/FormLayout.h"
 
 ColumnRow::ColumnRow(QWidget* parent) : QWidget(parent), layout_(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
     layout_->setContentsMargins({});
@@ -6,13 +6,9 @@ ColumnRow::ColumnRow(QWidget* parent) : QWidget(parent), layout_(new QBoxLayout(
     layout_->setSizeConstraint(QLayout::SetNoConstraint);
 }
 
-void ColumnRow::addColumn(QWidget* column, int weight) {
-    layout_->addWidget(column, weight);
-}
+void ColumnRow::addColumn(QWidget* column, int weight) { layout_->addWidget(column, weight); }
 
-void ColumnRow::setWeight(QWidget* column, int weight) {
-    layout_->setStretchFactor(column, weight);
-}
+void ColumnRow::setWeight(QWidget* column, int weight) { layout_->setStretchFactor(column, weight); }
 
 int ColumnRow::widthSideBySide() const {
     int width = layout_->spacing() * std::max(0, layout_->count() - 1);

@@ -1,4 +1,4 @@
-#include "KeyFilter.h"
+#include "platform/widgets/KeyFilter.h"
 
 #include <algorithm>
 

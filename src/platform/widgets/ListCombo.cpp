@@ -1,10 +1,11 @@
-#include "ListCombo.h"
+#include "platform/widgets/ListCombo.h"
 
 #include <QKeyEvent>
 #include <QListView>
 #include <QScopedValueRollback>
 
-#include "FilteredEdit.h"
+#include "platform/widgets/FilteredEdit.h"
+#include "platform/text/Texts.h"
 
 namespace {
 
@@ -74,8 +75,8 @@ void ListCombo::showEntry(int index, const QString& text) {
 void ListCombo::completeTyped(const QString& text) {
     const int cursor = edit()->cursorPosition();
     const bool atEnd = cursor == text.size();
-    const bool completes = !deleting_ && atEnd && !text.isEmpty();
-    const int index = completes ? list_->firstWithPrefix(text) : -1;
+    const bool completes = !deleting_ && atEnd;
+    const int index = completes ? CompleteComboText(text, list_->entries()) : -1;
     {
         const QScopedValueRollback completing(completing_, true);
         showEntry(index, index < 0 ? text : list_->entryAt(index));

@@ -2,8 +2,7 @@
 
 #include <QComboBox>
 
-#include "EntryListModel.h"
-#include "KeyFilter.h"
+#include "platform/widgets/EntryListModel.h"
 
 class FilteredEdit;
 

@@ -1,4 +1,4 @@
-#include "MaskedEdit.h"
+#include "platform/widgets/MaskedEdit.h"
 
 #include <QKeyEvent>
 
@@ -50,16 +50,16 @@ std::optional<QString> MaskedEdit::fitted(const QString& text) const {
 
 QString MaskedEdit::shownFor(const QString& text) const { return fitted(text).value_or(text); }
 
-std::optional<qsizetype> MaskedEdit::put(QString& text, qsizetype position, QChar character, bool blankIsEntry) const {
+std::optional<qsizetype> MaskedEdit::put(QString& text, qsizetype position, QChar character, bool isTyped) const {
     const auto size = mask_.size();
     if (position < size && !isPlace(position) && mask_[position] == character) return position + 1;
     qsizetype place = position;
     while (place < size && !isPlace(place)) ++place;
-    if (place < size && (takes(place, character) || (blankIsEntry && character == u' '))) {
+    if (place < size && (takes(place, character) || (isTyped && character == u' '))) {
         text[place] = character;
         return place + 1;
     }
-    for (qsizetype fixed = position; fixed < size; ++fixed)
+    for (qsizetype fixed = position; isTyped && fixed < size; ++fixed)
         if (!isPlace(fixed) && mask_[fixed] == character) return fixed + 1;
     return std::nullopt;
 }
@@ -68,8 +68,9 @@ std::optional<EntryEdit::Outcome> MaskedEdit::judge(const Change& change) const 
     const auto size = static_cast<int>(mask_.size());
     if (const bool whole = change.from == 0 && change.to == change.before.size(); whole || change.inserted.size() > 1)
         if (const auto text = fitted(change.inserted); text && !change.inserted.isEmpty()) {
-            const bool partial = change.inserted.size() < size && text->endsWith(u' ');
-            return Outcome{*text, partial ? static_cast<int>(change.inserted.size()) : size};
+            const auto entered = change.inserted.size();
+            const bool begun = entered < size && *text == change.inserted + blank_.mid(entered);
+            return Outcome{*text, begun ? static_cast<int>(entered) : size};
         }
     QString text = change.before;
     if (!fits(text)) {
@@ -84,7 +85,8 @@ std::optional<EntryEdit::Outcome> MaskedEdit::judge(const Change& change) const 
     for (int position = change.from; position < std::min(change.to, size); ++position)
         text[position] = blank_[position];
 
-    qsizetype cursor = change.from;
+    const bool begins = change.before == blank_ && !change.inserted.isEmpty();
+    qsizetype cursor = begins ? 0 : change.from;  // wherever the mouse went into an empty mask
     bool used = change.inserted.isEmpty();
     for (const QChar character : change.inserted)
         if (const auto next = put(text, cursor, character, change.inserted.size() == 1)) {

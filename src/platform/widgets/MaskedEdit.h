@@ -1,6 +1,6 @@
 #pragma once
 
-#include "EntryEdit.h"
+#include "platform/widgets/EntryEdit.h"
 
 /// A box with fixed places, such as a phone number's "###-####". In a mask '#' is the place of a digit and '?' that of
 /// a letter; anything else stands as it is. text() is always what the box displays, so the untouched phone mask reads
@@ -32,9 +32,9 @@ private:
     bool fits(const QString& text) const;
     /// The text as the mask displays it, where nothing of it would get lost.
     std::optional<QString> fitted(const QString& text) const;
-    /// Where the character goes when it is typed with the cursor at `position`; nothing when the mask has no use for
-    /// it.
-    std::optional<qsizetype> put(QString& text, qsizetype position, QChar character, bool blankIsEntry) const;
+    /// Puts a character where it belongs when the cursor stands at `position`, and gives the cursor's next position;
+    /// nothing when the mask has no use for it. A typed character can also blank a place or jump to what stands fixed.
+    std::optional<qsizetype> put(QString& text, qsizetype position, QChar character, bool isTyped) const;
 
     QString mask_;
     QString blank_;

@@ -1,8 +1,9 @@
-#include "SearchCombo.h"
+#include "platform/widgets/SearchCombo.h"
 
 #include <QKeyEvent>
 
-#include "FilteredEdit.h"
+#include "platform/widgets/FilteredEdit.h"
+#include "platform/text/Texts.h"
 
 SearchCombo::SearchCombo(const QString& accessibleName, QWidget* parent) : ListCombo(parent) {
     makeEditable();
@@ -62,7 +63,7 @@ void SearchCombo::settleOn(int index) {
 void SearchCombo::take() {
     const QString text = currentText();
     const int shown = currentIndex();
-    const int index = shown >= 0 && entryAt(shown) == text ? shown : text.isEmpty() ? -1 : list().firstWithPrefix(text);
+    const int index = shown >= 0 && entryAt(shown) == text ? shown : CompleteComboText(text, list().entries());
     if (index < 0) return revert();
     showEntry(index, entryAt(index));
     settleOn(index);

@@ -2,7 +2,7 @@
 
 #include <QPersistentModelIndex>
 
-#include "ListCombo.h"
+#include "platform/widgets/ListCombo.h"
 
 /// The list in which a user looks up a record: type the beginning of an entry, then Enter or leave the box to take it;
 /// or choose with the arrow keys or from the opened list. Escape, or leaving with a text that no entry begins with,

@@ -1,4 +1,4 @@
-#include "YesNoPair.h"
+#include "platform/widgets/YesNoPair.h"
 
 #include <QHBoxLayout>
 #include <QRadioButton>
@@ -16,14 +16,23 @@ YesNoPair::YesNoPair(const QString& objectName, const QString& accessibleName, Q
         layout->addWidget(button);
     }
     layout->addStretch();
-    no_->setChecked(true);
-    setFocusProxy(yes_);
-    connect(yes_, &QRadioButton::toggled, this, &YesNoPair::edited);
+    setYes(false);
+    connect(yes_, &QRadioButton::toggled, this, [this](bool yes) {
+        takeFocusAtAnswer();
+        Q_EMIT edited(yes);
+    });
 }
 
 void YesNoPair::setYes(bool yes) {
     const QSignalBlocker quiet(yes_);
     (yes ? yes_ : no_)->setChecked(true);
+    takeFocusAtAnswer();
+}
+
+void YesNoPair::takeFocusAtAnswer() {
+    yes_->setFocusPolicy(isYes() ? Qt::StrongFocus : Qt::ClickFocus);
+    no_->setFocusPolicy(isYes() ? Qt::ClickFocus : Qt::StrongFocus);
+    setFocusProxy(isYes() ? yes_ : no_);
 }
 
 bool YesNoPair::isYes() const { return yes_->isChecked(); }

@@ -20,6 +20,9 @@ Q_SIGNALS:
     void edited(bool yes);
 
 private:
+    /// Tab arrives at the present answer; the arrow keys go to the other.
+    void takeFocusAtAnswer();
+
     QRadioButton* yes_;
     QRadioButton* no_;
 };

@@ -33,7 +33,7 @@ protected:
             .check("chkRight", "Right", {[this] { return right; }, [this](bool flag) { right = flag; }})
             .check("chkLeft", "Left", {[this] { return left; }, [this](bool flag) { left = flag; }})
             .comments("txtComments", "Comments", bound(comments, 20));
-        builder.tab("Two").frame({}).yesNo("optHelps", "Helps?", {[this] { return helps; }, [this](bool yes) { helps = yes; }});
+        builder.tab("Two").frame({}).yesNo("optHelps", "Helps?", {[this] { return helps; }, [this](bool yes) { helps = yes; }}).text("txtNameAgain", "Name", bound(name, 8));
         form->resize(900, 400);
         form->show();
         form->refresh();
@@ -74,6 +74,7 @@ TEST_F(FormTest, AnEditWritesItsValueAndShowsWhatFollowsFromIt) {
     type("txtName", "Maximilian");
     EXPECT_EQ(name, "Maximili") << "cut to the column's length";
     EXPECT_EQ(form->findChild<QLabel*>("lblGreeting")->text(), "Hello Maximili");
+    EXPECT_EQ(box("txtNameAgain")->text(), name) << "a second box for the value follows";
     EXPECT_EQ(changed.first().first().toString(), "txtName");
     type("mskedArea", "503");
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "mskedPhone") << "a full area goes on to the number";
@@ -102,9 +103,41 @@ TEST_F(FormTest, WrongDateStaysInItsBoxAndIsNamed) {
     type("dtpBirth", "31/31/2012");
     EXPECT_EQ(form->unreadableField(), "dtpBirth");
     EXPECT_EQ(birth, QDate(2012, 4, 2));
+    type("txtName", "Bo");
+    EXPECT_EQ(box("dtpBirth")->text(), "31/31/2012") << "other edits leave it alone";
     type("dtpBirth", "5/6/12");
     EXPECT_EQ(form->unreadableField(), "");
     EXPECT_EQ(birth, QDate(2012, 5, 6));
+}
+
+TEST_F(FormTest, TabStopsAtThePresentAnswer) {
+    for (const bool answer : {true, false}) {
+        helps = answer;
+        form->refresh();
+        form->focusField("txtNameAgain");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), answer ? "optHelps0" : "optHelps1");
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
+    EXPECT_TRUE(helps) << "an arrow key gives the other answer";
+}
+
+TEST_F(FormTest, AKeyThatChangesNothingIsNoEdit) {
+    area = "503";
+    form->refresh();
+    QSignalSpy changed(form, &Form::changed);
+    form->focusField("mskedArea");
+    box("mskedArea")->setCursorPosition(0);
+    QTest::keyClicks(box("mskedArea"), "5x");
+    QTest::keyClick(form->findChild<QWidget*>("mskedFee"), 'a');
+    EXPECT_EQ(changed.count(), 0);
+}
+
+TEST_F(FormTest, WhatIsOnlyDisplayedLeavesTheValueAlone) {
+    form->display("chkRight", false);
+    type("txtName", "Bo");
+    EXPECT_FALSE(form->findChild<QCheckBox*>("chkRight")->isChecked()) << "other edits do not bring the value back";
+    EXPECT_TRUE(right);
 }
 
 TEST_F(FormTest, FieldsAreFoundNamedAndSwitched) {

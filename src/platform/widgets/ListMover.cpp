@@ -1,0 +1,136 @@
+#include "platform/widgets/ListMover.h"
+
+#include <QDropEvent>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListView>
+#include <QStyle>
+#include <QToolButton>
+
+#include "platform/widgets/EntryListModel.h"
+#include "platform/widgets/FormLayout.h"
+
+namespace {
+
+/// A list that takes what is dragged out of its counterpart.
+class MoverList final : public QListView {
+public:
+    using QListView::QListView;
+    const QListView* counterpart = nullptr;
+    std::function<void()> onDrop;
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override { judge(*event); }
+    void dragMoveEvent(QDragMoveEvent* event) override { judge(*event); }
+    void dropEvent(QDropEvent* event) override {
+        judge(*event);
+        if (event->isAccepted()) QMetaObject::invokeMethod(this, onDrop, Qt::QueuedConnection);
+    }
+
+private:
+    void judge(QDropEvent& event) const {
+        event.setDropAction(Qt::MoveAction);
+        event.setAccepted(counterpart && event.source() == counterpart);
+    }
+};
+
+MoverList* asMoverList(QListView* view) { return static_cast<MoverList*>(view); }
+
+}  // namespace
+
+ListMover::ListMover(const QString& objectName, const QString& leftTitle, const QString& rightTitle, QWidget* parent)
+    : QWidget(parent), halves_{} {
+    setObjectName(objectName);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins({});
+    grid->setHorizontalSpacing(spacing::label);
+    grid->setVerticalSpacing(spacing::label / 2);
+    halves_[Left] = makeHalf(Left, leftTitle);
+    halves_[Right] = makeHalf(Right, rightTitle);
+    auto* buttons = new QVBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(halves_[Right].button);
+    buttons->addWidget(halves_[Left].button);
+    buttons->addStretch();
+    grid->addLayout(buttons, 1, 1);
+    for (const Side side : {Left, Right}) {
+        MoverList* list = asMoverList(halves_[side].view);
+        const Side other = side == Left ? Right : Left;
+        list->counterpart = halves_[other].view;
+        list->onDrop = [this, other] { request(other); };
+    }
+    for (const Side side : {Left, Right}) setTabOrder(halves_[side].view, halves_[side].button);
+    updateButtons();
+}
+
+ListMover::Half ListMover::makeHalf(Side side, const QString& title) {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    const int column = side == Left ? 0 : 2;
+    auto* label = new QLabel(title, this);
+    auto* model = new EntryListModel(this);
+    auto* view = new MoverList(this);
+    view->setObjectName(objectName() + (side == Left ? QStringLiteral("Left") : QStringLiteral("Right")));
+    view->setAccessibleName(QString(title).remove(u'&'));
+    view->setModel(model);
+    view->setUniformItemSizes(true);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setDragDropMode(QAbstractItemView::DragDrop);
+    view->setDefaultDropAction(Qt::MoveAction);
+    view->setTextElideMode(Qt::ElideRight);
+    view->installEventFilter(this);
+    label->setBuddy(view);
+    grid->addWidget(label, 0, column);
+    grid->addWidget(view, 1, column);
+    grid->setColumnStretch(column, 1);
+
+    auto* button = new QToolButton(this);
+    button->setObjectName(QString(view->objectName() + u"Move"));
+    button->setIcon(style()->standardIcon(side == Left ? QStyle::SP_ArrowRight : QStyle::SP_ArrowLeft));
+    const QString explanation = side == Left ? tr("Move to the list on the right") : tr("Move to the list on the left");
+    button->setToolTip(explanation);
+    button->setAccessibleName(explanation);
+    connect(button, &QToolButton::clicked, this, [this, side] { request(side); });
+    connect(view, &QListView::doubleClicked, this, [this, side] { request(side); });
+    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this, &ListMover::updateButtons);
+    connect(model, &QAbstractItemModel::modelReset, this, &ListMover::updateButtons);
+    return {model, view, button};
+}
+
+void ListMover::setEntries(Side side, std::vector<QString>&& entries) {
+    const int before = selectedIndex(side);
+    EntryListModel* model = halves_[side].model;
+    model->setEntries(std::move(entries));
+    if (before >= 0 && model->size() > 0)
+        halves_[side].view->setCurrentIndex(model->index(std::min(before, model->size() - 1)));
+}
+
+int ListMover::entryCount(Side side) const { return halves_[side].model->size(); }
+
+QString ListMover::entryAt(Side side, int index) const { return halves_[side].model->entryAt(index); }
+
+int ListMover::selectedIndex(Side side) const { return halves_[side].view->currentIndex().row(); }
+
+QString ListMover::selectedEntry(Side side) const { return entryAt(side, selectedIndex(side)); }
+
+void ListMover::request(Side from) {
+    if (const int index = selectedIndex(from); index >= 0) Q_EMIT moveRequested(from, index);
+}
+
+void ListMover::updateButtons() {
+    for (const Side side : {Left, Right})
+        if (halves_[side].button) halves_[side].button->setEnabled(selectedIndex(side) >= 0);
+}
+
+bool ListMover::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        const Side side = watched == halves_[Left].view ? Left : Right;
+        const int across = side == Left ? Qt::Key_Right : Qt::Key_Left;
+        if (key == across || key == Qt::Key_Return || key == Qt::Key_Enter) {
+            request(side);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
