@@ -12,6 +12,15 @@
 
 namespace {
 
+/// Yes is choice 0 in the row; what is shown follows from the volunteers and not from there.
+FlagBinding volunteers(bool& shown, Whole& choice) {
+    return {[&shown] { return shown; },
+            [&shown, &choice](bool yes) {
+                shown = yes;
+                choice = yes ? 0 : 1;
+            }};
+}
+
 /// A grade is kept in two letters: "PK", "Co", "K", "7".
 QString shownGrade(const QString& kept) {
     if (kept == u"PK") return QStringLiteral("Pre-K");
@@ -27,7 +36,7 @@ QStringList grades() {
     return list << QStringLiteral("College");
 }
 
-struct Parent {
+struct ParentFields {
     const char* who;  ///< in the names of boxes
     const char* relationshipBox;
     Text& relationship;
@@ -41,6 +50,7 @@ struct Parent {
     Text& mobile;
     Text& email;
     Whole& volunteer;
+    bool& volunteers;
 };
 
 }  // namespace
@@ -52,16 +62,16 @@ QStringList PlayerPane::liveNames(const char* table, const char* column) {
 
 void PlayerPane::addParentsTab(FormBuilder& builder) {
     clsRegistration& p = player_;
-    const Parent parents[] = {
+    const ParentFields parents[] = {
         {"Dad", "cboPlayerGuardian1Relationship", p.PlayerGuardian1Relationship, p.PlayerDadLastName, p.PlayerDadFirstName, p.PlayerDadPhoneArea,
          p.PlayerDadPhone, p.PlayerDadWorkPhoneArea, p.PlayerDadWorkPhone, p.PlayerDadMobilePhoneArea, p.PlayerDadMobilePhone, p.PlayerDadEmail,
-         p.PlayerDadVolunteer},
+         p.PlayerDadVolunteer, dadVolunteers_},
         {"Mom", "cboPlayerGuardian2Relationship", p.PlayerGuardian2Relationship, p.PlayerMomLastName, p.PlayerMomFirstName, p.PlayerMomPhoneArea,
          p.PlayerMomPhone, p.PlayerMomWorkPhoneArea, p.PlayerMomWorkPhone, p.PlayerMomMobilePhoneArea, p.PlayerMomMobilePhone, p.PlayerMomEmail,
-         p.PlayerMomVolunteer}};
+         p.PlayerMomVolunteer, momVolunteers_}};
     builder.tab(tr("Parent Info."));
     int number = 0;
-    for (const Parent& parent : parents) {
+    for (const ParentFields& parent : parents) {
         const auto named = [&parent](const char* pattern) { return QString::fromLatin1(pattern).arg(QLatin1String(parent.who)); };
         builder.column()
             .frame(tr("Parent %1").arg(++number), 1)
@@ -72,7 +82,7 @@ void PlayerPane::addParentsTab(FormBuilder& builder) {
             .phone(named("mskedPlayer%1WorkPhoneArea"), named("mskedPlayer%1WorkPhone"), tr("Work Phone"), parent.workArea, parent.work)
             .phone(named("mskedPlayer%1MobilePhoneArea"), named("mskedPlayer%1MobilePhone"), tr("Mobile Phone"), parent.mobileArea, parent.mobile)
             .text(named("txtPlayer%1Email"), tr("Email Address"), parent.email, FilterTextFull)
-            .yesNo(named("optPlayer%1Volunteer"), tr("Volunteer?"), yesIsZero(parent.volunteer));
+            .yesNo(named("optPlayer%1Volunteer"), tr("Volunteer?"), volunteers(parent.volunteers, parent.volunteer));
     }
 }
 

@@ -31,7 +31,8 @@ PlayerPane::PlayerPane(Program& program)
                            .checkTitle = tr("Validation Error - Player Registration"),
                            .missingText = tr("Error!  Player Name not found in Search List")}),
       player_(program.store),
-      division_(program.store) {
+      division_(program.store),
+      volunteer_(program.store) {
     start(player_, buildForm());
     showCustomLabels();
 }
@@ -53,6 +54,7 @@ void PlayerPane::shown() {
                                           : ReadFieldValue(program().store, program().store.dataFilePath, QStringLiteral("TeamName"),
                                                            QStringLiteral("tblTeam"), live(matches("TeamId", player_.PlayerTeamId)));
     showAge();
+    showVolunteers();
     form().refresh();
     showBalance();
 }
@@ -149,8 +151,11 @@ std::vector<Finding> PlayerPane::check() const {
 
 bool PlayerPane::write() {
     if (!settleIdentity()) return false;
+    remindOfParents();
     settleSchool();
-    return RecordPane::write();
+    if (!RecordPane::write()) return false;
+    reconcileParents();
+    return true;
 }
 
 /// A school that the league does not know yet is added, or not kept with the player.

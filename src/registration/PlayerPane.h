@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
+
 #include "league/clsDivision.h"
 #include "registration/clsRegistration.h"
+#include "registration/clsVolunteer.h"
 #include "shell/RecordPane.h"
 
 class FormBuilder;
@@ -59,8 +62,26 @@ private:
     bool refuseRename();
     void revive(int retiredId, int revivedId);
 
+    // The parents as volunteers (PlayerParents.cpp).
+    struct Parent;
+    std::array<Parent, 2> parents() const;
+    void remindOfParents();
+    bool isVolunteer(const Parent& parent);
+    void showVolunteers();
+    void reconcileParents();
+    void reactivate();
+    void linkVolunteer(const Parent& parent);
+    bool makeVolunteer(const Parent& parent);
+    void followLink(const Parent& parent);
+    void updateVolunteer(const Parent& parent);
+    void replaceVolunteer(const Parent& parent);
+    void endVolunteering();
+
     clsRegistration player_;
     clsDivision division_;
+    clsVolunteer volunteer_;
+    bool dadVolunteers_ = false;  ///< the choices on screen, which the row's own do not decide
+    bool momVolunteers_ = false;
     QString divisionName_;
     QString teamName_;
     PlayerKey loaded_;  ///< of the record as it came from the file

@@ -12,7 +12,10 @@
 
 /// The whole program over a new league, its boxes answered from a script: what a test of a screen or a journey needs.
 struct RunningProgram {
-    RunningProgram() { loadGlobals(league.context); }
+    RunningProgram() {
+        loadGlobals(league.context);
+        settings.write(QStringLiteral("WindowSettings\\frmRegister"), QStringLiteral("ShowGuardianMsg"), QStringLiteral("False"));
+    }
 
     /// Opens a screen and waits until it stands.
     Screen* open(const char* name) {
