@@ -91,11 +91,13 @@ TEST_F(SetupTest, EachTabAsksForWhatItNeeds) {
 
 TEST_F(SetupTest, DeletedPositionTakesItsLinksAlong) {
     const QString key = running.league.value("SELECT * FROM tblVolunteerPositions ORDER BY [VolPosName]", "VolPosId");
-    running.league.database().execute("INSERT INTO tblVolToPosition ([VolId], [VolPosId]) VALUES (9, " + key + ")");
+    for (const QString& position : {key, QStringLiteral("99")})
+        running.league.database().execute("INSERT INTO tblVolToPosition ([VolId], [VolPosId]) VALUES (9, " + position + ")");
     showTab("Volunteer Positions");
     running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::Yes);
     press(screen, "cmdDelete");
-    EXPECT_EQ(running.league.value("tblVolToPosition", "DeletedFlag"), "1");
+    EXPECT_EQ(running.league.value("SELECT * FROM tblVolToPosition WHERE [DeletedFlag] = True", "VolPosId"), key);
+    EXPECT_EQ(running.league.value("SELECT * FROM tblVolToPosition WHERE [DeletedFlag] = False", "VolPosId"), "99");
 }
 
 TEST_F(SetupTest, MovingTellsWhereTheListEnds) {
