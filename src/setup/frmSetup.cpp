@@ -42,9 +42,9 @@ frmSetup::frmSetup(Program& program) : RecordScreen(program, QStringLiteral("frm
          .find = &ClsVolPos::FindVolPosRecord,
          .key = &ClsVolPos::VolPosName,
          // The second line is none of a position's; it has always come with the first.
-         .boxes = {{"txtVolPosName", tr("Position Title &Name *"), &ClsVolPos::VolPosName,
+         .boxes = {{"txtVolPosName", tr("Position Title N&ame *"), &ClsVolPos::VolPosName,
                     tr("The Volunteer Position Title Name is a required entry.\nThe Certification Name is a required entry.")},
-                   {"txtVolPosResponsibility", tr("Responsib&ilities"), &ClsVolPos::VolPosResponsibility},
+                   {"txtVolPosResponsibility", tr("Responsib&ilities"), &ClsVolPos::VolPosResponsibility, {}, true},
                    {"txtVolPosComments", tr("Co&mments"), &ClsVolPos::VolPosComments, {}, true}},
          .cascade = [](ClsVolPos& record) { record.DeleteAllVolToPositionRecords(record.VolPosId); }}));
     addPane(new LookupPane<clsRating>(
@@ -59,8 +59,8 @@ frmSetup::frmSetup(Program& program) : RecordScreen(program, QStringLiteral("frm
                   .missingText = tr("Error!  Rating Text not found in Search List")},
          .find = &clsRating::FindRatingRecord,
          .key = &clsRating::RatingText,
-         .boxes = {{"txtRatingText", tr("Rating &Text *"), &clsRating::RatingText, tr("The Rating Text field is a required entry.")},
-                   {"txtRatingValue", tr("Rating &Value *"), &clsRating::RatingValue, tr("The Rating Value field is a required entry.")},
+         .boxes = {{"txtRatingText", tr("Ratin&g Text *"), &clsRating::RatingText, tr("The Rating Text field is a required entry.")},
+                   {"txtRatingValue", tr("R&ating Value *"), &clsRating::RatingValue, tr("The Rating Value field is a required entry.")},
                    {"txtRatingComments", tr("Co&mments"), &clsRating::RatingComments, {}, true}}}));
     addPane(new LookupPane<clsSchoolName>(
         program, {.text = {.tag = "School",
@@ -90,7 +90,7 @@ frmSetup::frmSetup(Program& program) : RecordScreen(program, QStringLiteral("frm
                   .missingText = tr("Error!  Difficulty Rating Text not found in Search List")},
          .find = &clsDifficultyRating::FindDifficultyRatingRecord,
          .key = &clsDifficultyRating::DifficultyRatingText,
-         .boxes = {{"txtDifficultyRatingText", tr("Difficulty Rating &Text *"), &clsDifficultyRating::DifficultyRatingText,
+         .boxes = {{"txtDifficultyRatingText", tr("Difficult&y Rating Text *"), &clsDifficultyRating::DifficultyRatingText,
                     tr("The Difficulty Rating Text field is a required entry.")},
                    {"txtDifficultyRatingComments", tr("Co&mments"), &clsDifficultyRating::DifficultyRatingComments, {}, true}}}));
 }
