@@ -130,14 +130,4 @@ TEST(LookupsTest, SizesAreFoundAndRevivedByTheirDescriptionInTheirOwnTable) {
               "EY");
 }
 
-TEST(LookupsTest, DeletedPositionTakesItsLinksAlong) {
-    LeagueFile league;
-    league.database().execute("INSERT INTO tblVolToPosition ([VolId], [PlayerId], [VolPosId]) VALUES (1, 0, 2)");
-    league.database().execute("INSERT INTO tblVolToPosition ([VolId], [PlayerId], [VolPosId]) VALUES (1, 0, 3)");
-    ClsVolPos(league.context).DeleteAllVolToPositionRecords(2);
-    EXPECT_EQ(league.value("SELECT * FROM tblVolToPosition WHERE [DeletedFlag] = True", "VolPosId"), "2");
-    EXPECT_EQ(league.value("SELECT * FROM tblVolToPosition WHERE [DeletedFlag] = True", "TimeStamp"), "43200");
-    EXPECT_EQ(league.count("SELECT * FROM tblVolToPosition WHERE [DeletedFlag] = False"), 1);
-}
-
 }  // namespace

@@ -73,25 +73,6 @@ TEST_F(RatingsTest, OnePersonHasOneRow) {
     EXPECT_FALSE(rating.FindARVolunteerRecord(2, true, false)) << "the row of player 2 is none of volunteer 2";
 }
 
-TEST_F(RatingsTest, EitherHalfIsClearedByItself) {
-    rating.NewARRecord();
-    rating.PlayerId = 1;
-    rating.KnowledgeRating = 3;
-    rating.PositionAllPositions = true;
-    rating.UmpireFieldRating = 2;
-    rating.CoachReturn = 2;
-    rating.ResetVolunteerRatings();
-    EXPECT_EQ(rating.UmpireFieldRating, 0);
-    EXPECT_EQ(rating.CoachReturn, 0);
-    EXPECT_EQ(rating.KnowledgeRating, 3);
-    rating.UmpireFieldRating = 2;
-    rating.ResetPlayerRatings();
-    EXPECT_EQ(rating.KnowledgeRating, 0);
-    EXPECT_FALSE(rating.PositionAllPositions);
-    EXPECT_EQ(rating.UmpireFieldRating, 2);
-    EXPECT_EQ(rating.PlayerId, 1);
-}
-
 TEST_F(RatingsTest, ScaleTurnsWordsIntoValuesAndBack) {
     league.database().execute(
         "INSERT INTO tblRating ([RatingText], [RatingValue]) VALUES (\"Out \"\"of\"\" form\", \"-2\")");

@@ -26,7 +26,12 @@ protected:
         type(screen, "txtSchoolName", name);
         press(screen, "cmdSave");
     }
-    void showSchools() { screen->findChild<QTabWidget*>()->setCurrentIndex(1); }
+    void showTab(const QString& caption) {
+        auto* tabs = screen->findChild<QTabWidget*>();
+        for (int i = 0; i < tabs->count(); ++i)
+            if (tabs->tabText(i) == caption) tabs->setCurrentIndex(i);
+    }
+    void showSchools() { showTab("Schools"); }
 
     RunningProgram running;
     Screen* screen = nullptr;
@@ -60,6 +65,39 @@ TEST_F(SetupTest, FindingsComeInOneBoxAndTheFirstOneGetsTheCursor) {
     press(screen, "cmdSave");
     EXPECT_TRUE(control(screen, "txtCertName")->hasFocus());
     press(screen, "cmdCancel");
+}
+
+TEST_F(SetupTest, EachTabAsksForWhatItNeeds) {
+    const struct {
+        const char* tab;
+        const char* field;
+        const char* findings;
+    } tabs[]{{"Volunteer Positions", "txtVolPosName",
+              "The Volunteer Position Title Name is a required entry.\nThe Certification Name is a required entry."},
+             {"Ability Ratings", "txtRatingText",
+              "The Rating Text field is a required entry.\nThe Rating Value field is a required entry."},
+             {"Schools", "txtSchoolName", "The School Name is a required entry."},
+             {"Difficulty Ratings", "txtDifficultyRatingText", "The Difficulty Rating Text field is a required entry."}};
+    for (const auto& tab : tabs) {
+        SCOPED_TRACE(tab.tab);
+        showTab(tab.tab);
+        press(screen, "cmdAdd");
+        running.league.dialogs.expectWarning("Critical Error - Defaults Setup", tab.findings);
+        press(screen, "cmdSave");
+        EXPECT_TRUE(control(screen, tab.field)->hasFocus());
+        press(screen, "cmdCancel");
+    }
+}
+
+TEST_F(SetupTest, DeletedPositionTakesItsLinksAlong) {
+    const QString key = running.league.value("SELECT * FROM tblVolunteerPositions ORDER BY [VolPosName]", "VolPosId");
+    for (const QString& position : {key, QStringLiteral("99")})
+        running.league.database().execute("INSERT INTO tblVolToPosition ([VolId], [VolPosId]) VALUES (9, " + position + ")");
+    showTab("Volunteer Positions");
+    running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::Yes);
+    press(screen, "cmdDelete");
+    EXPECT_EQ(running.league.value("SELECT * FROM tblVolToPosition WHERE [DeletedFlag] = True", "VolPosId"), key);
+    EXPECT_EQ(running.league.value("SELECT * FROM tblVolToPosition WHERE [DeletedFlag] = False", "VolPosId"), "99");
 }
 
 TEST_F(SetupTest, MovingTellsWhereTheListEnds) {
@@ -121,11 +159,11 @@ TEST_F(SetupTest, UnsavedWorkIsOfferedWhereverTheUserGoes) {
     type(screen, "txtCertName", "");
     running.league.dialogs.expectQuestion("Save Record?", BoxAnswer::Yes, "Save the current record?");
     running.league.dialogs.expectWarning("Critical Error - Defaults Setup");
-    tabs->setCurrentIndex(1);
+    showSchools();
     EXPECT_EQ(tabs->currentIndex(), 0) << "what cannot be saved keeps the tab";
     running.league.dialogs.expectQuestion("Save Record?", BoxAnswer::No);
-    tabs->setCurrentIndex(1);
-    EXPECT_EQ(tabs->currentIndex(), 1);
+    showSchools();
+    EXPECT_EQ(tabs->tabText(tabs->currentIndex()), "Schools");
     press(screen, "cmdAdd");
     type(screen, "txtSchoolName", "Elm");
     running.league.dialogs.expectQuestion("Save Record?", BoxAnswer::Yes);
