@@ -1,5 +1,6 @@
 #include "app/ScreenRegister.h"
 
+#include "league/frmTeams.h"
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
 #include "setup/frmOptions.h"
@@ -20,6 +21,7 @@ void registerScreens(Program& program) {
     screens.addScreen("frmRegister", [&program] { return std::make_unique<frmRegister>(program); });
     screens.addScreen("frmReports", [&program] { return std::make_unique<frmReports>(program); });
     screens.addScreen("frmSetup", [&program] { return std::make_unique<frmSetup>(program); });
+    screens.addScreen("frmTeams", [&program] { return std::make_unique<frmTeams>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
     screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });

@@ -22,6 +22,7 @@ namespace {
 
 constexpr int organizationPage = 0;
 constexpr int defaultsPage = 1;
+constexpr const char* firstFields[] = {"txtOrganizationName", "mskedCurrentSeason", "txtCustomFieldLabel1"};
 
 }  // namespace
 
@@ -42,7 +43,7 @@ frmOptions::frmOptions(Program& program, Page page)
     layout->addWidget(buttonRow());
     tabs_ = form_->findChild<QTabWidget*>();
     page_ = static_cast<int>(page);
-    tabs_->setCurrentIndex(page_);
+    form_->focusField(QLatin1String(firstFields[page_]));
     connect(tabs_, &QTabWidget::currentChanged, this, &frmOptions::changePage);
     connect(form_, &Form::changed, this, &frmOptions::edited);
     connect(form_, &Form::left, this, &frmOptions::leftField);

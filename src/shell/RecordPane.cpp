@@ -203,14 +203,27 @@ void RecordPane::placeInList(const QString& before) {
     seenChanges_ = program_.store.workspace.openDatabase(program_.store.dataFilePath).changes();
 }
 
+/// Where the row itself is gone, the list says so when it is asked for it again.
+void RecordPane::dropEdits() {
+    try {
+        record_->undo();
+    } catch (const datafile::Error&) {
+        record_->blank();
+        record_->setDirty(false);
+    }
+}
+
 void RecordPane::cancel() {
-    record_->undo();
+    dropEdits();
     Q_EMIT said({});
     show(search_->indexOf(shownEntry_));
     focusSearch();
 }
 
-void RecordPane::refresh() { cancel(); }
+void RecordPane::refresh() {
+    readChoices();
+    cancel();
+}
 
 QString RecordPane::deleteQuestion() const {
     return tr("This will permanently delete the current record.\n\nDo you want to continue?");
@@ -230,11 +243,11 @@ void RecordPane::remove() {
     Q_EMIT said(tr("Record \"%1\" Deleted.").arg(deleted));
 }
 
-bool RecordPane::offerToSave() {
+bool RecordPane::offerToSave(const QString& question) {
     if (!record_->isChanged()) return true;
-    if (program_.dialogs().ask(tr("Save Record?"), tr("Save the current record?"))) return save();
+    if (program_.dialogs().ask(tr("Save Record?"), question.isEmpty() ? tr("Save the current record?") : question)) return save();
     const QString unsaved = unsavedName();
-    record_->undo();
+    dropEdits();
     show(search_->indexOf(shownEntry_));
     Q_EMIT said(tr("Record \"%1\" NOT saved.").arg(unsaved));
     return true;
@@ -258,6 +271,7 @@ void RecordPane::catchUp() {
     const datafile::Database database = program_.store.workspace.openDatabase(program_.store.dataFilePath);
     if (editing_ || database.changes() == seenChanges_) return;
     const QString current = shownEntry_;
+    readChoices();
     readList();
     const int index = search_->indexOf(current);
     show(index >= 0 ? index : search_->entryCount() > 0 ? 0 : -1);

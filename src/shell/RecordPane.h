@@ -20,6 +20,7 @@ struct PaneText {
     QString listQuery;      ///< its column Name is the list's text
     QString checkTitle;     ///< of the box with what the entry lacks
     QString missingText;    ///< says that the saved record is not in its list
+    QString leaveQuestion{};  ///< asked when its tab is left with unsaved work; empty: as everywhere
 };
 
 /// One finding of a pane's check of its entries.
@@ -50,7 +51,7 @@ public:
     void cancel();
     virtual void refresh();
     /// Asks, when there is unsaved work, whether to save it. False: the user stays with it.
-    bool offerToSave();
+    bool offerToSave(const QString& question = {});
     /// As offerToSave(), before the screen closes: a save that fails may be given up.
     bool offerToSaveBeforeClosing();
     /// Shows what others changed meanwhile; a record that is being edited stays as it is.
@@ -66,7 +67,7 @@ protected:
     /// Reads the list, shows its first record and lays the pane out. The last call of the constructor.
     void start(RecordClass& record, Form* form);
 
-    Program& program() { return program_; }
+    Program& program() const { return program_; }
     Form& form() { return *form_; }
     SearchCombo& search() { return *search_; }
     /// Begins a new record that `blank` prepares.
@@ -94,6 +95,8 @@ protected:
     virtual bool mayDelete() { return true; }
     /// Deletes the record and what goes with it.
     virtual void erase() { record_->deleteRecord(); }
+    /// Reads anew the lists that its fields choose from; others may have changed them.
+    virtual void readChoices() {}
     /// The record in the form is another one.
     virtual void shown() {}
 
@@ -105,6 +108,7 @@ private:
     void showBlank();
     void setEditing(bool editing);
     void readList();
+    void dropEdits();
     bool writeGuarded(const QString& title);
     void placeInList(const QString& before);
 

@@ -92,7 +92,7 @@ RecordPane* RecordScreen::pane() const { return qobject_cast<RecordPane*>(tabs_-
 void RecordScreen::changeTab(int index) {
     if (index == tab_) return;
     auto* left = qobject_cast<RecordPane*>(tabs_->widget(tab_));
-    if (left && !left->offerToSave()) {
+    if (left && !left->offerToSave(left->text().leaveQuestion)) {
         tabs_->setCurrentIndex(tab_);
         return;
     }

@@ -266,7 +266,12 @@ TEST_F(OptionsTest, WrongDataFileIsRefusedAndTheOldOneStays) {
 }
 
 TEST_F(OptionsTest, CustomFieldLabelsCanBeAskedFor) {
-    drive([&] { EXPECT_TRUE(control(options, "txtVolCustomFieldLabel6")->isVisible()); }, "frmOptions.CustomFields");
+    drive(
+        [&] {
+            EXPECT_TRUE(control(options, "txtVolCustomFieldLabel6")->isVisible());
+            EXPECT_TRUE(control(options, "txtCustomFieldLabel1")->hasFocus());
+        },
+        "frmOptions.CustomFields");
 }
 
 }  // namespace
