@@ -17,7 +17,11 @@ Form* PlayerPane::buildForm() {
     addMedicalTab(builder);
     addCustomTab(builder);
     form->setDateFormat(program().globals().defaultDateFormat);
-    connect(form, &Form::left, this, &PlayerPane::showBalance);
+    const QStringList amounts{"mskedPlayerFeeAmount", "mskedPlayerFundRaiserFee", "mskedPlayerOtherFees", "mskedPlayerAmountPaid",
+                              "cboPlayerDivision"};  // which gives the fee
+    connect(form, &Form::left, this, [this, amounts](const QString& field) {
+        if (amounts.contains(field)) showBalance();
+    });
     return form;
 }
 

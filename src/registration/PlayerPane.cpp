@@ -11,6 +11,7 @@
 #include "store/Lookup.h"
 
 #include <QLabel>
+#include <QLineEdit>
 
 namespace {
 
@@ -57,6 +58,7 @@ void PlayerPane::shown() {
     showVolunteers();
     form().refresh();
     showBalance();
+    if (player_.IsPlayerNew()) showUsualChoices();
 }
 
 /// The age on screen follows the division and birth date as they are chosen; a look at a record changes nothing.
@@ -82,18 +84,37 @@ void PlayerPane::chooseDivision(const QString& name) {
     showAge();
 }
 
+/// From what the boxes show, as the user sees the sum.
 void PlayerPane::showBalance() {
-    Money owed;
-    for (const Text* fee : {&player_.PlayerFeeAmount, &player_.PlayerFundRaiserFee, &player_.PlayerOtherFees}) owed = owed + Money::orZero((*fee)());
-    const Money paid = Money::orZero(player_.PlayerAmountPaid());
-    const bool due = owed >= paid;
-    form().setCaption(QStringLiteral("lblPlayerBalance"), due ? tr("Balance Due") : tr("Refund Due"));
-    form().display(QStringLiteral("lblPlayerBalance"), (due ? owed - paid : paid - owed).text());
-    if (auto* value = form().findChild<QLabel*>(QStringLiteral("lblPlayerBalance"))) {
-        QPalette colours = palette();
-        if (!due) colours.setColor(QPalette::WindowText, QColor(0xc6, 0x28, 0x28));
-        value->setPalette(colours);
-    }
+    const auto amount = [this](const char* box) {
+        return Money::orZero(form().findChild<QLineEdit*>(QLatin1String(box))->text());
+    };
+    const Money owed = amount("mskedPlayerFeeAmount") + amount("mskedPlayerFundRaiserFee") + amount("mskedPlayerOtherFees");
+    const Money paid = amount("mskedPlayerAmountPaid");
+    showBalance(owed >= paid ? owed - paid : paid - owed, owed >= paid);
+}
+
+void PlayerPane::showBalance(const Money& balance, bool due) {
+    const QString name = QStringLiteral("lblPlayerBalance");
+    form().setCaption(name, due ? tr("Balance Due") : tr("Refund Due"));
+    form().display(name, balance.text());
+    QPalette colours = palette();
+    if (!due) colours.setColor(QPalette::WindowText, QColor(0xc6, 0x28, 0x28));
+    form().findChild<QLabel*>(name)->setPalette(colours);
+}
+
+/// A new record's boxes show the usual choices. Where the user touches none of them the record's own are saved.
+void PlayerPane::showUsualChoices() {
+    form().display(QStringLiteral("chkPlayerBirthCertificateChecked"), false);
+    form().display(QStringLiteral("chkPlayerSendInvitation"), true);
+    form().display(QStringLiteral("chkPlayerParentApproval"), true);
+    form().display(QStringLiteral("mskedPlayerFundRaiserFee"), usualFundRaiserFee());
+    showBalance(Money(), true);
+}
+
+QString PlayerPane::usualFundRaiserFee() {
+    const auto fee = Money::parse(program().globals().defaultFundRaiserFee);
+    return fee && *fee != Money() ? fee->text() : QString();
 }
 
 void PlayerPane::setDefaults() {
@@ -105,8 +126,7 @@ void PlayerPane::setDefaults() {
                        &player_.PlayerMomPhoneArea, &player_.PlayerMomWorkPhoneArea, &player_.PlayerMomMobilePhoneArea})
         *area = globals.defaultAreaCode;
     player_.PlayerFeeAmount = QString();
-    const auto fundRaiser = Money::parse(globals.defaultFundRaiserFee);
-    player_.PlayerFundRaiserFee = fundRaiser && *fundRaiser != Money() ? fundRaiser->text() : QString();
+    player_.PlayerFundRaiserFee = usualFundRaiserFee();
 }
 
 void PlayerPane::makeNew() {
@@ -201,5 +221,12 @@ void PlayerPane::erase() {
 
 void PlayerPane::addSibling() {
     if (player_.PlayerId == 0 || isEditing()) return;
-    beginNew([this] { player_.NewSiblingPlayerRecord(); });
+    beginNew([this] {
+        player_.NewSiblingPlayerRecord();
+        player_.PlayerDivisionId = 0;
+        player_.PlayerTeamId = 0;
+        player_.PlayerBeltedPants = false;
+        player_.PlayerMedicalForm = false;
+        player_.SetIsPlayerDirty(false);
+    });
 }

@@ -8,6 +8,7 @@
 #include "shell/RecordPane.h"
 
 class FormBuilder;
+struct Money;
 
 /// Where a registrar types one child at a time.
 class PlayerPane final : public RecordPane {
@@ -54,6 +55,9 @@ private:
     void chooseDivision(const QString& name);
     void showAge();
     void showBalance();
+    void showBalance(const Money& balance, bool due);
+    void showUsualChoices();
+    QString usualFundRaiserFee();
 
     // The questions before a save (PlayerIdentity.cpp).
     bool settleIdentity();

@@ -191,12 +191,16 @@ bool RecordPane::save() {
     return true;
 }
 
-/// After a save the list takes one entry; it is not read anew.
+/// After a save the list takes one entry; it is not read anew. The entry before goes unless its record is still there.
 void RecordPane::placeInList(const QString& before) {
     const QString saved = entry();
+    const auto drop = [this](const QString& text) {
+        if (const int index = search_->indexOf(text); index >= 0) search_->removeEntry(index);
+    };
     if (before != saved) {
-        if (const int old = before.isEmpty() ? -1 : search_->indexOf(before); old >= 0) search_->removeEntry(old);
-        if (search_->entryAt(search_->indexOf(saved)) != saved) search_->insertEntry(saved, listLess);
+        if (!before.isEmpty() && !find(before)) drop(before);
+        drop(saved);  // written otherwise, or the record that this one went over
+        search_->insertEntry(saved, listLess);
     }
     if (!find(saved)) program_.dialogs().warning(tr("Error!"), text_.missingText);
     show(search_->indexOf(saved));
