@@ -1,7 +1,6 @@
 #include "platform/widgets/FormBuilder.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QScrollArea>
@@ -100,19 +99,18 @@ FormBuilder& FormBuilder::column(int weight) {
 FormBuilder& FormBuilder::frame(const QString& title, int pairs) {
     if (!column_) column();
     QWidget* box = title.isEmpty() ? new QWidget : new QGroupBox(title);
-    grid_ = new QGridLayout(box);
-    grid_->setHorizontalSpacing(spacing::label);
-    grid_->setVerticalSpacing(spacing::line);
-    for (int pair = 0; pair < pairs; ++pair) grid_->setColumnStretch(2 * pair + 1, 1);
-    pairs_ = pairs;
-    line_ = pair_ = 0;
+    auto* inside = new QVBoxLayout(box);
+    if (title.isEmpty()) inside->setContentsMargins({});
+    grid_ = new PairGrid(pairs, box);
+    inside->addWidget(grid_);
     span_ = 1;
+    beginsLine_ = false;
     column_->addWidget(box);
     return *this;
 }
 
 FormBuilder& FormBuilder::row() {
-    if (pair_ > 0) ++line_, pair_ = 0;
+    beginsLine_ = true;
     return *this;
 }
 
@@ -145,20 +143,14 @@ QLabel* FormBuilder::place(QWidget* widget, const QString& caption, QWidget* bud
         last_ = widget;
         return label;
     }
-    if (pair_ + span_ > pairs_) row();
     if (!caption.isEmpty()) {
+        const bool tall = qobject_cast<CommentBox*>(widget);
         label = new QLabel(caption);
         label->setBuddy(buddy);
-        label->setAlignment(Qt::AlignLeft | (qobject_cast<CommentBox*>(widget) ? Qt::AlignTop : Qt::AlignVCenter));
-        label->setContentsMargins(pair_ > 0 ? spacing::group - spacing::label : 0, qobject_cast<CommentBox*>(widget) ? 4 : 0, 0, 0);
-        grid_->addWidget(label, line_, 2 * pair_);
+        label->setAlignment(Qt::AlignLeft | (tall ? Qt::AlignTop : Qt::AlignVCenter));
+        if (tall) label->setContentsMargins(0, 4, 0, 0);
     }
-    const bool own = widget->sizePolicy().horizontalPolicy() == QSizePolicy::Maximum;
-    const int before = caption.isEmpty() ? 0 : 1;  // without a caption its place belongs to the widget too
-    if (before == 0) widget->setContentsMargins(pair_ > 0 ? spacing::group - spacing::label : 0, 0, 0, 0);
-    grid_->addWidget(widget, line_, 2 * pair_ + before, 1, 2 * span_ - before, own ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment());
-    pair_ += span_;
-    span_ = 1;
+    grid_->add(label, widget, std::exchange(span_, 1), std::exchange(beginsLine_, false));
     if (last_) QWidget::setTabOrder(last_, buddy ? buddy : widget);
     last_ = buddy ? buddy : widget;
     return label;
@@ -254,7 +246,13 @@ FormBuilder& FormBuilder::choice(const QString& name, const QString& caption, Bi
     editor->setLimits(std::move(filter), value.maxLength);
     int longest = 4;
     for (const QString& entry : entries) longest = qMax(longest, static_cast<int>(entry.size()));
-    editor->setShownCharacters(qMin(qMax(longest, qMin(value.maxLength, 12)), mostShownCharacters));
+    if (entries.isEmpty() || options & ChoiceBox::FreeText) longest = qMax(longest, value.maxLength);
+    for (const int step : {4, 10, narrowField})
+        if (longest <= step) {  // few widths, so that boxes below each other end alike
+            longest = step;
+            break;
+        }
+    editor->setShownCharacters(qMin(longest, mostShownCharacters));
     keepWidth(editor, longest);
     named(editor, name, caption);
     add(name, editor, place(editor, caption, editor), value, [editor](const QString& text) { editor->setText(text); });
@@ -311,7 +309,7 @@ FormBuilder& FormBuilder::comments(const QString& name, const QString& caption, 
     editor->setLimits(std::move(filter), value.maxLength);
     editor->setTabChangesFocus(true);
     named(editor, name, caption);
-    span_ = pairs_;
+    span_ = grid_->pairs();
     add(name, editor, place(editor, caption, editor), value, [editor](const QString& text) { editor->setText(text); });
     QObject::connect(editor, &CommentBox::edited, form_, [form = form_, name](const QString& text) { form->edit(name, text); });
     return *this;

@@ -8,10 +8,10 @@
 #include "platform/widgets/KeyFilter.h"
 
 class QBoxLayout;
-class QGridLayout;
 class QScrollArea;
 class QTabWidget;
 class ColumnRow;
+class PairGrid;
 
 /// Lays a form out as it is declared, from the top: tabs, columns, frames, and in a frame one line for each field.
 /// A caption holds its access key behind '&'. Fields stand in as many pairs of caption and field side by side as the
@@ -72,11 +72,9 @@ private:
     QBoxLayout* page_ = nullptr;
     ColumnRow* columns_ = nullptr;
     QBoxLayout* column_ = nullptr;
-    QGridLayout* grid_ = nullptr;
-    int pairs_ = 2;
-    int line_ = 0;
-    int pair_ = 0;
+    PairGrid* grid_ = nullptr;
     int span_ = 1;
+    bool beginsLine_ = false;
     QBoxLayout* together_ = nullptr;
     int togetherLeft_ = 0;
     QWidget* last_ = nullptr;

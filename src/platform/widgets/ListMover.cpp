@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
-#include <QStyle>
 #include <QToolButton>
 
 #include "platform/widgets/EntryListModel.h"
@@ -74,6 +73,7 @@ ListMover::Half ListMover::makeHalf(Side side, const QString& title) {
     view->setAccessibleName(QString(title).remove(u'&'));
     view->setModel(model);
     view->setUniformItemSizes(true);
+    view->setSpacing(2);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->setDragDropMode(QAbstractItemView::DragDrop);
     view->setDefaultDropAction(Qt::MoveAction);
@@ -86,7 +86,7 @@ ListMover::Half ListMover::makeHalf(Side side, const QString& title) {
 
     auto* button = new QToolButton(this);
     button->setObjectName(QString(view->objectName() + u"Move"));
-    button->setIcon(style()->standardIcon(side == Left ? QStyle::SP_ArrowRight : QStyle::SP_ArrowLeft));
+    button->setArrowType(side == Left ? Qt::RightArrow : Qt::LeftArrow);
     const QString explanation = side == Left ? tr("Move to the list on the right") : tr("Move to the list on the left");
     button->setToolTip(explanation);
     button->setAccessibleName(explanation);

@@ -5,6 +5,8 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
@@ -138,6 +140,19 @@ TEST_F(FormTest, WhatIsOnlyDisplayedLeavesTheValueAlone) {
     type("txtName", "Bo");
     EXPECT_FALSE(form->findChild<QCheckBox*>("chkRight")->isChecked()) << "other edits do not bring the value back";
     EXPECT_TRUE(right);
+}
+
+TEST_F(FormTest, ANarrowWindowBreaksLinesInsteadOfScrollingSideways) {
+    auto* page = form->findChild<QScrollArea*>();
+    const auto lineOf = [this](const char* boxName) { return box(boxName)->mapTo(form, QPoint()).y(); };
+    const auto settled = [&](int width, bool oneLine) {
+        form->resize(width, 400);
+        return QTest::qWaitFor([&] { return (lineOf("txtName") == lineOf("mskedArea")) == oneLine; }) &&
+               page->horizontalScrollBar()->maximum() == 0;
+    };
+    EXPECT_TRUE(settled(900, true));
+    EXPECT_TRUE(settled(320, false));
+    EXPECT_TRUE(settled(900, true));
 }
 
 TEST_F(FormTest, FieldsAreFoundNamedAndSwitched) {
