@@ -39,6 +39,9 @@ function(kestrel_room name kind)
   endif()
   add_library(${name} STATIC ${ROOM_SOURCES})
   target_link_libraries(${name} PUBLIC kestrel_flags Qt6::Core ${ROOM_USES})
+  # A header that is new in the folder makes moc look again.
+  set_target_properties(${name} PROPERTIES AUTOGEN_TARGET_DEPENDS
+    ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/${name}_autogen.dir/AutogenInfo.json)
   if(kind STREQUAL "WINDOWED")
     target_link_libraries(${name} PUBLIC Qt6::Gui Qt6::Widgets)
     target_precompile_headers(${name} REUSE_FROM kestrel_pch_widgets)
