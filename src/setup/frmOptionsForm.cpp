@@ -169,8 +169,8 @@ void frmOptions::addDataFileFrame(FormBuilder& builder) {
         row->addStretch(1);
         builder.row().custom(label).span(2).custom(both);
     }
-    builder.row().span(3).custom(note(
-        tr("Nothing is backed up or compacted by itself: choose Backup from the File menu of the startup panel.")));
+    builder.row().span(3).custom(
+        note(tr("Nothing is backed up or compacted by itself: use Backup, Restore and Merge on the startup panel.")));
 }
 
 void frmOptions::addCustomFieldsPage(FormBuilder& builder) {
