@@ -30,12 +30,15 @@ bool isRefusal(Fault fault) {
     }
 }
 
+/// False when the file refused a part of the work.
 template <class Work>
-void unlessRefused(Work work) {
+bool unlessRefused(Work work) {
     try {
         work();
+        return true;
     } catch (const Error& error) {
         if (!isRefusal(error.fault())) throw;
+        return false;
     }
 }
 
@@ -136,10 +139,14 @@ void runUpgradeStep(const UpgradeStep& step, StoreContext& context, const Databa
 }
 
 void finishUpgrade(const Database& database) {
-    for (const TableDef& table : schema::tables())
-        unlessRefused([&] {
+    const QList<TableDef> tables = schema::tables();
+    const auto finish = [&](const QList<TableDef>& some) {
+        return unlessRefused([&] {
             datafile::Transaction transaction(database, datafile::Transaction::Kind::Schema);
-            finishTable(database, table);
+            for (const TableDef& table : some) finishTable(database, table);
             transaction.commit();
         });
+    };
+    if (finish(tables)) return;
+    for (const TableDef& table : tables) finish({table});
 }

@@ -66,8 +66,7 @@ void Workspace::compactDatabase(const QString& from, const QString& to) {
         Statement(*connection, QStringLiteral("VACUUM INTO ") + sql::literal(made)).run();
         checkIntegrity(made);
         QFile::setPermissions(made, QFileInfo(from).permissions());
-        files::copyWhole(made, to);
-        QFile::remove(made);
+        files::replaceWith(made, to);
     } catch (const files::Error& error) {
         QFile::remove(made);
         passOn(error);
