@@ -49,7 +49,8 @@ TableDef finalTable(const QString& name) {
 }
 
 const IndexDef* indexOf(const TableDef& table, const QString& name) {
-    const auto found = std::find_if(table.indexes.begin(), table.indexes.end(), [&](const IndexDef& each) { return sameName(each.name, name); });
+    const auto found = std::find_if(table.indexes.begin(), table.indexes.end(),
+                                    [&](const IndexDef& each) { return sameName(each.name, name); });
     return found == table.indexes.end() ? nullptr : &*found;
 }
 
@@ -96,7 +97,8 @@ void apply(const Change& change, StoreContext& context, const Database& database
         case Change::Kind::CreateTable: return createTable(database, change);
         case Change::Kind::DropTable: return database.deleteTable(change.table);
         case Change::Kind::AddIndexes:
-            for (const QString& name : change.names) database.addIndex(change.table, *indexOf(finalTable(change.table), name));
+            for (const QString& name : change.names)
+                database.addIndex(change.table, *indexOf(finalTable(change.table), name));
             return;
         case Change::Kind::DropIndex: return database.deleteIndex(change.table, change.names.first());
         case Change::Kind::Work: return change.work(context, database);

@@ -45,7 +45,8 @@ void expectSchemaOfNewFile(const Database& database) {
         QStringList own;
         for (const FieldDef& field : table->fields.mid(end.fields.size())) own << field.name;
         EXPECT_TRUE(own.isEmpty() || own == QStringList{"Remarks"}) << own.join(' ').toStdString();
-        for (int i = 0; i < end.fields.size(); ++i) EXPECT_TRUE(table->fields[i] == end.fields[i]) << end.fields[i].name.toStdString();
+        for (int i = 0; i < end.fields.size(); ++i)
+            EXPECT_TRUE(table->fields[i] == end.fields[i]) << end.fields[i].name.toStdString();
         EXPECT_TRUE(sorted(table->indexes) == sorted(end.indexes));
         EXPECT_TRUE(table->relations == end.relations);
     }
@@ -55,7 +56,8 @@ void expectSchemaOfNewFile(const Database& database) {
 QStringList rowsOf(const Database& database, const QString& table) {
     QStringList list;
     Recordset rows = database.openRecordset(table);
-    for (; !rows.eof(); rows.moveNext()) list << toText(rows.value(0)) + '|' + (rows.fieldCount() > 1 ? toText(rows.value(1)) : QString());
+    for (; !rows.eof(); rows.moveNext())
+        list << toText(rows.value(0)) + '|' + (rows.fieldCount() > 1 ? toText(rows.value(1)) : QString());
     list.sort();
     return list;
 }
@@ -119,7 +121,8 @@ void expectRowsToBeAsTold(const Database& database, int version) {
         const char* value = expected.later;
         for (auto entry = expected.until.rbegin(); entry != expected.until.rend(); ++entry)
             if (version <= entry->first) value = entry->second;
-        Recordset row = database.openRecordset(QString("SELECT * FROM %1 WHERE %2").arg(expected.table, expected.criteria));
+        Recordset row =
+            database.openRecordset(QString("SELECT * FROM %1 WHERE %2").arg(expected.table, expected.criteria));
         ASSERT_FALSE(row.eof());
         EXPECT_EQ(isNull(row.value(expected.column)) ? nothing : row.text(expected.column), value);
     }

@@ -32,7 +32,8 @@ inline void undo(const Change& change, QList<datafile::TableDef>& tables) {
     datafile::TableDef* table = find(tables, change.table);
     switch (change.kind) {
         case Change::Kind::AddColumns:
-            table->fields.removeIf([&](const auto& field) { return change.names.contains(field.name, Qt::CaseInsensitive); });
+            table->fields.removeIf(
+                [&](const auto& field) { return change.names.contains(field.name, Qt::CaseInsensitive); });
             break;
         case Change::Kind::DropColumns: table->fields << takenColumns(change); break;
         case Change::Kind::FinalRules:
@@ -45,7 +46,9 @@ inline void undo(const Change& change, QList<datafile::TableDef>& tables) {
                 field.defaultValue.clear();
             }
             break;
-        case Change::Kind::CreateTable: tables.removeIf([&](const auto& each) { return each.name == change.table; }); break;
+        case Change::Kind::CreateTable:
+            tables.removeIf([&](const auto& each) { return each.name == change.table; });
+            break;
         case Change::Kind::DropTable:
             tables << datafile::TableDef{change.table, {{.name = "TeamId", .type = datafile::ColumnType::Long}}};
             break;
@@ -67,12 +70,14 @@ inline QList<datafile::TableDef> tablesAt(int version) {
                 for (const QString& name : change.names) known << change.table + u'.' + name;
     QList<datafile::TableDef> tables = schema::tables();
     for (datafile::TableDef& table : tables) {
-        table.indexes.removeIf([&](const auto& index) { return !index.primary && !known.contains(table.name + u'.' + index.name); });
+        table.indexes.removeIf(
+            [&](const auto& index) { return !index.primary && !known.contains(table.name + u'.' + index.name); });
     }
     for (auto step = steps.rbegin(); step != steps.rend() && step->lastVersion >= version; ++step)
         for (auto change = step->changes.rbegin(); change != step->changes.rend(); ++change) undo(*change, tables);
     for (datafile::TableDef& table : tables)
-        if (table.fields.isEmpty()) table.fields << datafile::FieldDef{.name = "Remarks", .size = 50};  // never stamped then
+        if (table.fields.isEmpty())
+            table.fields << datafile::FieldDef{.name = "Remarks", .size = 50};  // never stamped then
     return tables;
 }
 
@@ -95,24 +100,37 @@ inline void addLookups(const datafile::Database& database, int version) {
     const QStringList later{"NF", "NS", "PE", "NB", "QC", "ON", "MB", "SK", "AB", "BC", "NT", "YU"};
     since(-2, "tblState", [&](const BaseRow& row) { return version > 17 || !later.contains(row.value("StateId")); });
     if (version == 18) database.execute("UPDATE tblState SET [StateId] = \"PQ\" WHERE [StateName] = \"Quebec\"");
-    since(21, "tblOfficialDivisionNames", [&](const BaseRow& row) { return version > 29 || row.value("OrganizationName") != u"Babe Ruth League"; });
+    since(21, "tblOfficialDivisionNames",
+          [&](const BaseRow& row) { return version > 29 || row.value("OrganizationName") != u"Babe Ruth League"; });
     since(26, "tblSport");
 }
 
 inline void addPeople(const datafile::Database& database) {
     const auto player = [&](const char* last, const char* born, const char* division, const Row& rest) {
-        Row row{{"PlayerLastName", last}, {"PlayerFirstName", "Ann"}, {"PlayerBirthDate", born}, {"PlayerDivisionId", division}};
+        Row row{{"PlayerLastName", last},
+                {"PlayerFirstName", "Ann"},
+                {"PlayerBirthDate", born},
+                {"PlayerDivisionId", division}};
         add(database, "tblRegistration", row + rest);
     };
     const Row zip{{"PlayerZipCode", "12345"}, {"PlayerZipCode4", "6789"}};
-    player("Ash", "1990-07-31", "1", zip + Row{{"PlayerFeePaid", "40.00"}, {"PlayerGender", "m"}, {"PlayerSchoolName", "Oak School"}});
+    player("Ash", "1990-07-31", "1",
+           zip + Row{{"PlayerFeePaid", "40.00"}, {"PlayerGender", "m"}, {"PlayerSchoolName", "Oak School"}});
     player("Birch", "1990-08-01", "1", {{"PlayerZipCode", "90210"}, {"PlayerFeePaid", "7"}, {"PlayerGender", "F"}});
     player("Cedar", "1990-08-02", "0", {{"PlayerZipCode4", ""}, {"PlayerGender", "X"}});
     player("Daphne", "1929-03-01", "7", {{"PlayerZipCode4", "6789"}, {"PlayerGender", "Female"}});
     player("Elm", "1991-01-01", "2", {});
     const char* noPhone = "   -    ";
-    add(database, "tblVolunteer", {{"VolLastName", "Vine"}, {"VolFirstName", "Al"}, {"VolHomePhone", "555-1234"}, {"VolWorkPhone", noPhone}, {"VolFaxPhone", noPhone}, {"VolZipCode", "12345"}, {"VolZipCode4", "6789"}});
-    add(database, "tblVolunteer", {{"VolLastName", "Willow"}, {"VolFirstName", "Bo"}, {"VolHomePhone", noPhone}, {"VolWorkPhone", "555-9876"}});
+    add(database, "tblVolunteer",
+        {{"VolLastName", "Vine"},
+         {"VolFirstName", "Al"},
+         {"VolHomePhone", "555-1234"},
+         {"VolWorkPhone", noPhone},
+         {"VolFaxPhone", noPhone},
+         {"VolZipCode", "12345"},
+         {"VolZipCode4", "6789"}});
+    add(database, "tblVolunteer",
+        {{"VolLastName", "Willow"}, {"VolFirstName", "Bo"}, {"VolHomePhone", noPhone}, {"VolWorkPhone", "555-9876"}});
 }
 
 inline void addRows(const datafile::Database& database, int version) {
@@ -124,10 +142,24 @@ inline void addRows(const datafile::Database& database, int version) {
     add(database, "tblSponsor", {{"SponsorName", "Baker"}, {"SponsorZipCode", "12345"}, {"SponsorZipCode4", "6789"}});
     add(database, "tblVendor", {{"VendorName", "Bats & Co"}, {"VendorZipCode", "12345"}});
     add(database, "tblInsurance", {{"InsAgencyName", "Safe"}, {"InsZipCode", "12345"}});
-    add(database, "tblOptions", {{"OptionId", "1"}, {"OrganizationName", "Oak League"}, {"ZipCode", "12345"}, {"CurrentSeasonYear", "2001"}});
-    add(database, "tblDefaults", {{"DefaultsId", "1"}, {"DefaultZipCode", "12345"}, {"DefaultAgeCutoffMonth", "8"}, {"DefaultAgeCutoffDay", "1"}});
-    add(database, "tblSchedule", {{"division", "Minors"}, {"HomeTeam", "Owls"}, {"VisitorsTeam", "Hawks"}, {"Field", "Oak"}, {"HomeOrAway", "Home"}});
-    add(database, "tblSponsorPreviousPledge", {{"SponsorId", "1"}, {"PreviousPledgeYear", "1999"}, {"PreviousPledgeAmount", "5"}, {"PreviousPaidAmount", "4"}});
+    add(database, "tblOptions",
+        {{"OptionId", "1"}, {"OrganizationName", "Oak League"}, {"ZipCode", "12345"}, {"CurrentSeasonYear", "2001"}});
+    add(database, "tblDefaults",
+        {{"DefaultsId", "1"},
+         {"DefaultZipCode", "12345"},
+         {"DefaultAgeCutoffMonth", "8"},
+         {"DefaultAgeCutoffDay", "1"}});
+    add(database, "tblSchedule",
+        {{"division", "Minors"},
+         {"HomeTeam", "Owls"},
+         {"VisitorsTeam", "Hawks"},
+         {"Field", "Oak"},
+         {"HomeOrAway", "Home"}});
+    add(database, "tblSponsorPreviousPledge",
+        {{"SponsorId", "1"},
+         {"PreviousPledgeYear", "1999"},
+         {"PreviousPledgeAmount", "5"},
+         {"PreviousPaidAmount", "4"}});
     add(database, "tblTeamVolunteer", {{"VolId", "1"}, {"DivisionId", "1"}, {"TeamId", "1"}, {"VolPosName", "Coach"}});
     add(database, "tblTeamField", {{"TeamId", "1"}, {"FieldId", "1"}, {"DivisionId", "1"}});
     add(database, "tblVolToPosition", {{"VolId", "1"}, {"PlayerId", "1"}, {"VolPosId", "1"}});
