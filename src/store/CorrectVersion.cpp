@@ -26,7 +26,8 @@ void emptyWorkTables(StoreContext& context, const Database& database) {
     if (database.table(QStringLiteral("tblTempFeeReport"))) DeleteRecords(context, TempFeeReport);
 }
 
-/// The number behind "Version 1." of a file older than the program; nothing for any other text, which counts as current.
+/// The number behind "Version 1." of a file older than the program; nothing for any other text, which counts as
+/// current.
 std::optional<int> olderVersion(const QString& text) {
     for (int version = 0; version <= upgradeSteps().last().lastVersion; ++version)
         if (text == QStringLiteral("Version 1.%1").arg(version)) return version;
@@ -45,8 +46,10 @@ QString versionOf(const Database& database) {
 
 void writeVersion(const Database& database, const QString& version) {
     Recordset rows = database.openRecordset(QLatin1String(versionTable));
-    if (rows.eof()) rows.addNew();
-    else rows.edit();
+    if (rows.eof())
+        rows.addNew();
+    else
+        rows.edit();
     rows.set(QLatin1String(versionColumn), datafile::Value{version});
     rows.update();
 }
@@ -80,10 +83,12 @@ void upgrade(StoreContext& context, const Database& database, int version) {
 
 bool MakeSafetyCopy(StoreContext& context) {
     try {
-        context.workspace.copyDatabase(context.dataFilePath, context.dataFilePath.chopped(4) + QLatin1String(safetySuffix));
+        context.workspace.copyDatabase(context.dataFilePath,
+                                       context.dataFilePath.chopped(4) + QLatin1String(safetySuffix));
         return true;
     } catch (const datafile::Error& error) {
-        WriteJournal(context.clock, context.dialogs, QLatin1String(journalModule), QStringLiteral("Backup"), error.text());
+        WriteJournal(context.clock, context.dialogs, QLatin1String(journalModule), QStringLiteral("Backup"),
+                     error.text());
         return false;
     }
 }
@@ -96,7 +101,8 @@ bool CorrectVersion(StoreContext& context) {
         if (const std::optional<int> version = olderVersion(versionOf(database))) upgrade(context, database, *version);
         return true;
     } catch (const datafile::Error& error) {
-        WriteJournal(context.clock, context.dialogs, QLatin1String(journalModule), QStringLiteral("CorrectVersion"), error.text());
+        WriteJournal(context.clock, context.dialogs, QLatin1String(journalModule), QStringLiteral("CorrectVersion"),
+                     error.text());
         return false;
     }
 }

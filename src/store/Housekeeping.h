@@ -4,15 +4,15 @@
 
 /// What DeleteRecords removes. The numbers are those by which callers know them.
 enum RecordKind {
-    InactivePlayers = 1,     ///< marked as deleted, as are the inactive volunteers; their rows stay until the purge
+    InactivePlayers = 1,  ///< marked as deleted, as are the inactive volunteers; their rows stay until the purge
     InactiveVolunteers = 2,
     Schedule = 3,
     TempResults = 4,
     TempSearchList = 5,
     TempFeeReport = 6,
-    DivisionSchedule = 7,    ///< the games of the division named `text`; none when it is ""
-    LostTeams = 8,           ///< no row goes: players of a team that has no row any more get team 0
-    DeletedRows = 9,         ///< the rows of the table named `text` that are marked as deleted, for good
+    DivisionSchedule = 7,  ///< the games of the division named `text`; none when it is ""
+    LostTeams = 8,         ///< no row goes: players of a team that has no row any more get team 0
+    DeletedRows = 9,       ///< the rows of the table named `text` that are marked as deleted, for good
     TempFamilyLabels = 10,
     EquipmentAvailable = 11
 };

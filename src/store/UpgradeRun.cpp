@@ -30,12 +30,15 @@ bool isRefusal(Fault fault) {
     }
 }
 
+/// False when the file refused a part of the work.
 template <class Work>
-void unlessRefused(Work work) {
+bool unlessRefused(Work work) {
     try {
         work();
+        return true;
     } catch (const Error& error) {
         if (!isRefusal(error.fault())) throw;
+        return false;
     }
 }
 
@@ -46,7 +49,8 @@ TableDef finalTable(const QString& name) {
 }
 
 const IndexDef* indexOf(const TableDef& table, const QString& name) {
-    const auto found = std::find_if(table.indexes.begin(), table.indexes.end(), [&](const IndexDef& each) { return sameName(each.name, name); });
+    const auto found = std::find_if(table.indexes.begin(), table.indexes.end(),
+                                    [&](const IndexDef& each) { return sameName(each.name, name); });
     return found == table.indexes.end() ? nullptr : &*found;
 }
 
@@ -93,7 +97,8 @@ void apply(const Change& change, StoreContext& context, const Database& database
         case Change::Kind::CreateTable: return createTable(database, change);
         case Change::Kind::DropTable: return database.deleteTable(change.table);
         case Change::Kind::AddIndexes:
-            for (const QString& name : change.names) database.addIndex(change.table, *indexOf(finalTable(change.table), name));
+            for (const QString& name : change.names)
+                database.addIndex(change.table, *indexOf(finalTable(change.table), name));
             return;
         case Change::Kind::DropIndex: return database.deleteIndex(change.table, change.names.first());
         case Change::Kind::Work: return change.work(context, database);
@@ -136,10 +141,14 @@ void runUpgradeStep(const UpgradeStep& step, StoreContext& context, const Databa
 }
 
 void finishUpgrade(const Database& database) {
-    for (const TableDef& table : schema::tables())
-        unlessRefused([&] {
+    const QList<TableDef> tables = schema::tables();
+    const auto finish = [&](const QList<TableDef>& some) {
+        return unlessRefused([&] {
             datafile::Transaction transaction(database, datafile::Transaction::Kind::Schema);
-            finishTable(database, table);
+            for (const TableDef& table : some) finishTable(database, table);
             transaction.commit();
         });
+    };
+    if (finish(tables)) return;
+    for (const TableDef& table : tables) finish({table});
 }

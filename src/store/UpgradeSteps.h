@@ -9,7 +9,7 @@ struct Change {
         AddColumns,
         DropColumns,
         FinalRules,   ///< width, required, zero length and default of columns become those of the schema
-        CreateTable,  ///< without the columns in `names`, which a later step brings
+        CreateTable,  ///< without the columns in `names`, which later steps bring
         DropTable,
         AddIndexes,
         DropIndex,

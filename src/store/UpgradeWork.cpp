@@ -22,8 +22,8 @@ QHash<qint64, CutOff> cutOffs(const Database& database) {
     QHash<qint64, CutOff> divisions;
     Recordset rows = database.openRecordset(QStringLiteral("SELECT * FROM tblDivision ORDER BY DivisionId"));
     for (; !rows.eof(); rows.moveNext())
-        divisions.insert(rows.number(QStringLiteral("DivisionId")),
-                         {rows.text(QStringLiteral("DivAgeCutOffMonth")), rows.text(QStringLiteral("DivAgeCutOffDay"))});
+        divisions.insert(rows.number(QStringLiteral("DivisionId")), {rows.text(QStringLiteral("DivAgeCutOffMonth")),
+                                                                     rows.text(QStringLiteral("DivAgeCutOffDay"))});
     return divisions;
 }
 
@@ -31,18 +31,24 @@ QHash<qint64, CutOff> cutOffs(const Database& database) {
 
 void joinZipCodes(StoreContext&, const Database& database) {
     for (const char* prefix : {"Field", "Player", "Sponsor", "Vol"}) {
-        const QString table = QString::fromLatin1(qstrcmp(prefix, "Player") == 0 ? "Registration" : qstrcmp(prefix, "Vol") == 0 ? "Volunteer" : prefix);
-        database.execute(QStringLiteral("UPDATE tbl%1 SET [%2PostalCode] = IIF([%2ZipCode4] <> \"\", [%2ZipCode] & \"-\" & [%2ZipCode4], [%2ZipCode]), "
+        const QString table = QString::fromLatin1(qstrcmp(prefix, "Player") == 0 ? "Registration"
+                                                  : qstrcmp(prefix, "Vol") == 0  ? "Volunteer"
+                                                                                 : prefix);
+        database.execute(QStringLiteral("UPDATE tbl%1 SET [%2PostalCode] = IIF([%2ZipCode4] <> \"\", [%2ZipCode] & "
+                                        "\"-\" & [%2ZipCode4], [%2ZipCode]), "
                                         "[%2ZipCode] = \"\", [%2ZipCode4] = \"\"")
                              .arg(table, QLatin1String(prefix)));
     }
-    for (const auto& [table, prefix] : {std::pair{"tblInsurance", "Ins"}, std::pair{"tblOptions", ""}, std::pair{"tblVendor", "Vendor"}})
-        database.execute(QStringLiteral("UPDATE %1 SET [%2PostalCode] = [%2ZipCode], [%2ZipCode] = \"\"").arg(QLatin1String(table), QLatin1String(prefix)));
+    for (const auto& [table, prefix] :
+         {std::pair{"tblInsurance", "Ins"}, std::pair{"tblOptions", ""}, std::pair{"tblVendor", "Vendor"}})
+        database.execute(QStringLiteral("UPDATE %1 SET [%2PostalCode] = [%2ZipCode], [%2ZipCode] = \"\"")
+                             .arg(QLatin1String(table), QLatin1String(prefix)));
 }
 
 void addCanadianStates(StoreContext&, const Database& database) {
     const QStringList provinces{"NF", "NS", "PE", "NB", "QC", "ON", "MB", "SK", "AB", "BC", "NT", "YU"};
-    addBaseRows(database, QStringLiteral("tblState"), [&](const BaseRow& row) { return provinces.contains(row.value("StateId")); });
+    addBaseRows(database, QStringLiteral("tblState"),
+                [&](const BaseRow& row) { return provinces.contains(row.value("StateId")); });
 }
 
 void addFirstOfficialNames(StoreContext&, const Database& database) {
@@ -60,13 +66,13 @@ void computeAges(StoreContext& context, const Database& database) {
     constexpr char defaults[] = "SELECT * FROM tblDefaults";
     globals.defaultAgeCutoffMonth = numericField(context, "DefaultAgeCutoffMonth", defaults, QStringLiteral("1"));
     globals.defaultAgeCutoffDay = numericField(context, "DefaultAgeCutoffDay", defaults, QStringLiteral("1"));
-    globals.currentSeasonYear =
-        numericField(context, "CurrentSeasonYear", "SELECT * FROM tblOptions", QString::number(context.clock.today().year()));
+    globals.currentSeasonYear = numericField(context, "CurrentSeasonYear", "SELECT * FROM tblOptions",
+                                             QString::number(context.clock.today().year()));
     const CutOff standard{globals.defaultAgeCutoffMonth, globals.defaultAgeCutoffDay};
     const QHash<qint64, CutOff> divisions = cutOffs(database);
 
-    Recordset players = database.openRecordset(
-        QStringLiteral("SELECT [PlayerDivisionId], [PlayerBirthDate], [PlayerAge] FROM tblRegistration ORDER BY [PlayerId]"));
+    Recordset players = database.openRecordset(QStringLiteral(
+        "SELECT [PlayerDivisionId], [PlayerBirthDate], [PlayerAge] FROM tblRegistration ORDER BY [PlayerId]"));
     const int division = players.field(QStringLiteral("PlayerDivisionId"));
     const int birth = players.field(QStringLiteral("PlayerBirthDate"));
     const int age = players.field(QStringLiteral("PlayerAge"));
@@ -74,7 +80,8 @@ void computeAges(StoreContext& context, const Database& database) {
         const QDate born = datafile::toDate(players.value(birth));
         if (!born.isValid()) continue;
         const CutOff cutOff = cutOffByField(divisions.value(datafile::toNumber(players.value(division))), standard);
-        const int years = CalculateAge(born.toString(QStringLiteral("M/d/yyyy")), cutOff.month, cutOff.day, globals.currentSeasonYear);
+        const int years = CalculateAge(born.toString(QStringLiteral("M/d/yyyy")), cutOff.month, cutOff.day,
+                                       globals.currentSeasonYear);
         if (datafile::toNumber(players.value(age), -1) == years) continue;
         players.edit();
         players.set(age, datafile::Value{qint64{years}});

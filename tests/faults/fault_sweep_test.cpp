@@ -9,15 +9,18 @@
 #include "registration/clsRegistration.h"
 #include "store/BaseFile.h"
 #include "support/LeagueFile.h"
+#include "support/OlderFile.h"
 #include "support/Printing.h"
 
 // Each test lets one kind of fault strike at the first change that a piece of work makes to the league's files, then at
-// the second, and so on until the work completes untouched. Whatever happens, what is found afterwards is either the
-// state before the work or the state after it, and never the other than the one the user was told.
+// the second (or, in long work, a few further on), and so on until the work completes untouched. Whatever happens, what
+// is found afterwards is either the state before the work or the state after it, and never the other than the one the
+// user was told. Of an upgrade that holds for each step, and the next start ends it.
 
 namespace {
 
 constexpr int exitCodeOfDeath = 86;
+constexpr int olderVersion = 34;  ///< a file that five steps, the end of the chain and a compact must raise
 
 struct Case {
     const char* task;
@@ -57,6 +60,19 @@ protected:
     void SetUp() override {
         LeagueFile league;
         ASSERT_TRUE(QFile::copy(league.path(), original(".BKM")));
+        if (isUpgrade()) {
+            olderfile::make(original(".kmr"), olderVersion);
+        } else {
+            makeLeague(league);
+        }
+        before_ = playersOf(original(".kmr"));
+        ASSERT_EQ(work(0).told, QStringList{"done"});
+        after_ = playersOf(file(".kmr"));
+    }
+
+    static bool isUpgrade() { return GetParam().task == QLatin1String("upgrade"); }
+
+    void makeLeague(LeagueFile& league) const {
         clsRegistration player(league.context);
         datafile::Transaction transaction(league.database());
         for (int i = 0; i < 30; ++i) {
@@ -69,9 +85,6 @@ protected:
         }
         transaction.commit();
         ASSERT_TRUE(QFile::copy(league.path(), original(".kmr")));
-        before_ = playersOf(original(".kmr"));
-        ASSERT_EQ(work(0).told, QStringList{"done"});
-        after_ = playersOf(file(".kmr"));
     }
 
     QString original(const char* suffix) const { return originals_.filePath(QLatin1String("Kestrelmoor") + suffix); }
@@ -81,6 +94,11 @@ protected:
     Result work(int change) {
         folder_.emplace();
         for (const char* suffix : {".kmr", ".BKM"}) EXPECT_TRUE(QFile::copy(original(suffix), file(suffix)));
+        return workOn(change);
+    }
+
+    /// The same on the league as it stands.
+    Result workOn(int change) const {
         const QString report = originals_.filePath("report");
         QFile::remove(report);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -118,6 +136,18 @@ protected:
         EXPECT_TRUE(result.died || (saidDone(result) ? is : was)) << "the user was told otherwise";
     }
 
+    /// The data file after an upgrade: whole, and such that the next start ends it. What a single step did is compared
+    /// by way of that: a part of a step would stand in its way.
+    void checkUpgrade(const Result& result) {
+        datafile::checkIntegrity(file(".kmr"));
+        datafile::checkIntegrity(file(".BKM"));
+        const QString version = datafile::Workspace().openDatabase(file(".kmr")).openRecordset("tblVersion").text("DBVersion");
+        EXPECT_TRUE(!saidDone(result) || version == GetCurrentDBVersion()) << "the user was told otherwise";
+        EXPECT_EQ(playersOf(file(".kmr")).size(), before_.size());
+        EXPECT_EQ(workOn(0).told, QStringList{"done"}) << "the next start failed";
+        EXPECT_EQ(playersOf(file(".kmr")), after_);
+    }
+
     void checkSafetyCopy(const Result& result) {
         const QByteArray copy = bytesOf(file(".BKM"));
         const bool was = copy == bytesOf(original(".BKM"));
@@ -135,7 +165,7 @@ protected:
         const bool mayLeave = kind == u"die" || kind == u"stays-broken";
         for (const QString& name : QDir(folder_->path()).entryList(QDir::Files | QDir::Hidden))
             EXPECT_TRUE(name == u"Kestrelmoor.kmr" || name == u"Kestrelmoor.BKM" || name == u"Journal.Dat" ||
-                        (mayLeave && (name.endsWith('~') || name == u"Kestrelmoor.kmr-journal")))
+                        (mayLeave && (name.endsWith('~') || name.endsWith(QLatin1String("-journal")) || name == u"Kestrelmoor.CPT")))
                 << name.toStdString();
     }
 
@@ -148,14 +178,15 @@ protected:
 TEST_P(FaultSweep, LeavesTheStateBeforeOrAfterAndTellsTheTruth) {
     const bool ends = GetParam().kind == QLatin1String("die");
     const bool again = *GetParam().again != '\0';
-    int change = 1;
-    for (;; ++change) {
+    const int stride = isUpgrade() ? 17 : GetParam().task == QLatin1String("compact") ? 7 : 1;  // long work is sampled
+    int change = 1 + static_cast<int>(qstrlen(GetParam().kind)) % stride;
+    for (;; change += stride) {
         const Result result = work(change);
         SCOPED_TRACE(testing::Message() << "change " << change << ": " << result.at.toStdString() << "; told "
                                         << testing::PrintToString(result.told));
         try {
-            checkDataFile(result);
-            checkSafetyCopy(result);
+            if (isUpgrade()) checkUpgrade(result);
+            else checkDataFile(result), checkSafetyCopy(result);
         } catch (const std::exception& error) {
             ADD_FAILURE() << error.what();
         }
@@ -166,7 +197,7 @@ TEST_P(FaultSweep, LeavesTheStateBeforeOrAfterAndTellsTheTruth) {
         const bool isFull = result.at.contains("write") && QString(GetParam().kind).endsWith("full");
         EXPECT_TRUE(!isFull || saidDone(result) || result.told.last().contains("no space left"));
         if (!result.struck) break;
-        ASSERT_LT(change, 500);
+        ASSERT_LT(change, 2000);
     }
     RecordProperty("changes", change - 1);
     EXPECT_GT(change, 5) << "the faults did not reach the work";
@@ -174,7 +205,7 @@ TEST_P(FaultSweep, LeavesTheStateBeforeOrAfterAndTellsTheTruth) {
 
 std::vector<Case> cases() {
     std::vector<Case> all;
-    for (const char* task : {"save", "add", "bulk", "copy"}) {
+    for (const char* task : {"save", "add", "bulk", "copy", "upgrade", "compact"}) {
         for (const char* kind : {"die", "full", "error", "stays-full", "stays-broken"}) all.push_back({task, kind});
         all.push_back({task, "error", "again"});
     }

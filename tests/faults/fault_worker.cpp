@@ -1,13 +1,15 @@
 #include <QCoreApplication>
 #include <cstdio>
+#include <optional>
 
 #include "registration/clsRegistration.h"
 #include "store/CorrectVersion.h"
+#include "store/Housekeeping.h"
 #include "support/QuietDialogs.h"
 
 // One piece of work on a league's data file, done in a process of its own so that it may be ended midway:
 //
-//     fault_worker save|add|bulk|copy <data file> [again]
+//     fault_worker save|add|bulk|copy|upgrade|compact <data file> [again]
 //
 // Prints a line with what the user is told: "done", or the text of the error. With "again" a user who was told an error
 // tries a second time, and a second line says what came of it.
@@ -53,24 +55,27 @@ int main(int count, char** arguments) {
     StoreContext context{workspace, clock, dialogs, application.arguments().value(2)};
     context.globals.currentSeasonYear = "2026";
 
-    clsRegistration player(context);
+    std::optional<clsRegistration> player;
+    if (task == u"save" || task == u"add") player.emplace(context);
     const auto work = [&]() -> QString {
+        if (task == u"upgrade") return CorrectVersion(context) ? QString::fromLatin1(done) : dialogs.last;
+        if (task == u"compact") return CompactDataFile(context), QString::fromLatin1(done);
         if (task == u"copy") return MakeSafetyCopy(context) ? QString::fromLatin1(done) : dialogs.last;
         if (task == u"bulk") return changeMany(context);
-        return save(player);
+        return save(*player);
     };
     if (task == u"save") {
-        if (!player.FindPlayerRecord("Smith, Ann - 4/2/2012", false, true)) return 1;
-        player.PlayerCity = "Newtown";
-        player.PlayerPhone = "555-1234";
-        player.PlayerDadLastName = "Zimmermann";
-        player.PlayerComments = QString(255, 'x');
+        if (!player->FindPlayerRecord("Smith, Ann - 4/2/2012", false, true)) return 1;
+        player->PlayerCity = "Newtown";
+        player->PlayerPhone = "555-1234";
+        player->PlayerDadLastName = "Zimmermann";
+        player->PlayerComments = QString(255, 'x');
     } else if (task == u"add") {
-        player.NewPlayerRecord();
-        player.PlayerLastName = "Newcomer";
-        player.PlayerFirstName = "Bo";
-        player.PlayerBirthDate = QDate(2013, 5, 6);
-        player.PlayerComments = QString(255, 'y');
+        player->NewPlayerRecord();
+        player->PlayerLastName = "Newcomer";
+        player->PlayerFirstName = "Bo";
+        player->PlayerBirthDate = QDate(2013, 5, 6);
+        player->PlayerComments = QString(255, 'y');
     }
 
     const int tries = application.arguments().value(3) == u"again" ? 2 : 1;

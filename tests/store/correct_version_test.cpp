@@ -31,13 +31,6 @@ TEST_F(CorrectVersionTest, CurrentFileIsCopiedAndItsWorkTablesEmptied) {
     EXPECT_EQ(journal(), "");
 }
 
-TEST_F(CorrectVersionTest, OlderFileIsRefusedWithALineInTheJournal) {
-    league.database().execute("UPDATE tblVersion SET [DBVersion] = \"Version 1.12\"");
-    league.dialogs.expectError("Kestrelmoor");
-    EXPECT_FALSE(CorrectVersion(league.context));
-    EXPECT_TRUE(journal().contains("UpdateFunctions           CorrectVersion            The data file is at \"Version 1.12\"")) << journal().toStdString();
-}
-
 TEST_F(CorrectVersionTest, SafetyCopyThatFailsIsReportedAndTheStartGoesOn) {
     ASSERT_TRUE(QDir(league.folder.path()).mkpath("Kestrelmoor.BKM/in the way"));
     league.dialogs.expectError("Kestrelmoor");

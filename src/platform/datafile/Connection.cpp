@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QVarLengthArray>
 #include <QtEndian>
+#include <cerrno>
 #include <sqlite3.h>
 #include <utility>
 
@@ -252,7 +253,9 @@ void Connection::raise(int code, const QString& sql) {
         }
         default: break;
     }
-    const Fault fault = faultOf(code);
+    Fault fault = faultOf(code);
+    const bool ofSystem = fault == Fault::InputOutput || fault == Fault::ReadOnly;  // a journal that cannot be made, too
+    if (ofSystem && handle_ && (sqlite3_system_errno(handle_) == ENOSPC || sqlite3_system_errno(handle_) == EDQUOT)) fault = Fault::Full;
     if (depth_ > 0 && handle_ && sqlite3_get_autocommit(handle_)) ended_ = fault;
     throw Error(fault, fault == Fault::Statement ? QString(message + u'\n' + sql) : explain(fault, path_));
 }

@@ -60,19 +60,22 @@ void Workspace::copyDatabase(const QString& from, const QString& to) {
 void Workspace::compactDatabase(const QString& from, const QString& to) {
     if (QFileInfo::exists(to)) throw Error(Fault::State, tr("The file %1 exists already.").arg(QDir::toNativeSeparators(to)));
     const QString made = files::temporaryName(to);
+    const auto discard = [&made] {
+        QFile::remove(made);
+        removeSidecars(made);
+    };
     try {
         auto connection = find(from);
         if (!connection) connection = std::make_shared<Connection>(from, true);
         Statement(*connection, QStringLiteral("VACUUM INTO ") + sql::literal(made)).run();
         checkIntegrity(made);
         QFile::setPermissions(made, QFileInfo(from).permissions());
-        files::copyWhole(made, to);
-        QFile::remove(made);
+        files::replaceWith(made, to);
     } catch (const files::Error& error) {
-        QFile::remove(made);
+        discard();
         passOn(error);
     } catch (...) {
-        QFile::remove(made);
+        discard();
         throw;
     }
 }
