@@ -16,17 +16,20 @@ double median(std::vector<double> values) {
     return *middle;
 }
 
-QString timeText(double seconds) {
+QString valueText(double value, Unit unit) {
+    if (unit == Unit::Bytes) return QString::number(value / (1 << 20), 'f', 1) + " MB";
+    const double seconds = value;
     if (seconds < 1e-3) return QString::number(seconds * 1e6, 'f', 1) + " us";
     if (seconds < 1) return QString::number(seconds * 1e3, 'f', seconds < 0.1 ? 2 : 0) + " ms";
     return QString::number(seconds, 'f', 2) + " s";
 }
 
-QString aimText(const Aim& aim) {
+QString aimText(const Comparison::Subject& subject) {
+    const auto& [times, more, total] = subject.aim;
     QStringList parts;
-    if (aim.times) parts << QString("<= %1 x").arg(*aim.times);
-    if (aim.more) parts << "<= raw + " + timeText(*aim.more);
-    if (aim.total) parts << "<= " + timeText(*aim.total);
+    if (times) parts << QString("<= %1 x").arg(*times);
+    if (more) parts << "<= raw + " + valueText(*more, subject.unit);
+    if (total) parts << "<= " + valueText(*total, subject.unit);
     return parts.join(", ");
 }
 
@@ -47,8 +50,8 @@ public:
             if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
             const QStringList name = QString::fromStdString(run.run_name.function_name).split('/');
             auto& row = rows_[name.at(0).section('.', 0, 0).toUInt()];
-            const double seconds = run.real_accumulated_time / static_cast<double>(run.iterations);
-            (name.at(1) == QLatin1String(rawMark) ? row.raw : row.ours).push_back(seconds);
+            const double value = run.real_accumulated_time / static_cast<double>(run.iterations);
+            (name.at(1) == QLatin1String(rawMark) ? row.raw : row.ours).push_back(value);
         }
     }
 
@@ -79,8 +82,8 @@ void Comparison::add(const Subject& subject, Work ours, Work raw) {
     rows_.push_back({subject});
 }
 
-void Comparison::addTimed(const Subject& subject, int times, const TimedWork& ours, const TimedWork& raw) {
-    const auto measure = [&](const char* mark, const TimedWork& work) {
+void Comparison::addMeasured(const Subject& subject, int times, const MeasuredWork& ours, const MeasuredWork& raw) {
+    const auto measure = [&](const char* mark, const MeasuredWork& work) {
         const auto once = [work](benchmark::State& state) {
             for ([[maybe_unused]] auto _ : state) state.SetIterationTime(work());
         };
@@ -119,7 +122,8 @@ void Comparison::print() const {
         const QString ratio = raw ? QString::number(ours / *raw, 'f', 2) + " x" : QString();
         const bool isMet = holds(row.subject.aim, ours, raw);
         std::printf("%-44s %8d %10s %10s %7s %7s  %-26s %s\n", qPrintable(row.subject.what), row.subject.players,
-                    qPrintable(timeText(ours)), raw ? qPrintable(timeText(*raw)) : "", qPrintable(ratio),
-                    qPrintable(growth), qPrintable(aimText(row.subject.aim)), isMet ? "" : "MISSED");
+                    qPrintable(valueText(ours, row.subject.unit)),
+                    raw ? qPrintable(valueText(*raw, row.subject.unit)) : "", qPrintable(ratio), qPrintable(growth),
+                    qPrintable(aimText(row.subject)), isMet ? "" : "MISSED");
     }
 }

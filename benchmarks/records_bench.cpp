@@ -139,7 +139,7 @@ private:
             update_.reset();
             return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
         };
-        comparison.addTimed(subject("save one changed player", {.more = 0.5e-3}), 200, save, rawSave);
+        comparison.addMeasured(subject("save one changed player", {.more = 0.5e-3}), 200, save, rawSave);
     }
 
     qint64 rawKeyOf(const Child& child) {

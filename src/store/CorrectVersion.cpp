@@ -19,11 +19,17 @@ constexpr char versionColumn[] = "DBVersion";
 constexpr char firstVersion[] = "Version 1.0";
 constexpr char firstSeason[] = "2000";
 
-/// The work tables mean nothing between two starts. The fee report's came with a later version.
+/// The work tables mean nothing between two starts. Mostly they are empty, and then nothing is written. The fee report's
+/// came with a later version.
 void emptyWorkTables(StoreContext& context, const Database& database) {
-    DeleteRecords(context, TempResults);
-    DeleteRecords(context, TempSearchList);
-    if (database.table(QStringLiteral("tblTempFeeReport"))) DeleteRecords(context, TempFeeReport);
+    const std::pair<const char*, RecordKind> kinds[] = {
+        {"tblTempResults", TempResults}, {"tblTempSearchList", TempSearchList}, {"tblTempFeeReport", TempFeeReport}};
+    for (const auto& [name, kind] : kinds) {
+        const QString table = QString::fromLatin1(name);
+        const bool mayBeMissing = kind == TempFeeReport;
+        if (mayBeMissing && !database.table(table)) continue;
+        if (!database.openRecordset(table).eof()) DeleteRecords(context, kind);
+    }
 }
 
 /// The number behind "Version 1." of a file older than the program; nothing for any other text, which counts as
