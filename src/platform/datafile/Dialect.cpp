@@ -53,7 +53,7 @@ Value dateLiteral(const QString& text, const QString& statement) {
         if (pieces[iso ? 0 : 2].size() <= 2) year += year >= 30 ? 1900 : 2000;
         const QDate date(year, pieces[iso ? 1 : 0].toInt(), pieces[iso ? 2 : 1].toInt());
         if (!date.isValid()) refuse(u'#' + text + u'#', statement);
-        result = date.toString(Qt::ISODate);
+        result = toText(fromDate(date));
     }
     if (!timePart.isEmpty()) {
         QTime time;
@@ -70,6 +70,34 @@ Value numberLiteral(QStringView text) {
     bool whole = false;
     const qint64 number = text.toLongLong(&whole);
     return whole ? Value{number} : Value{text.toDouble()};
+}
+
+/// Reads the text that begins with the quote at `at`, and moves `at` behind it.
+QString textLiteral(const QString& statement, qsizetype& at) {
+    const QChar quote = statement[at];
+    QString text;
+    while (true) {
+        const qsizetype end = statement.indexOf(quote, ++at);
+        if (end < 0) refuse(QStringLiteral("a quote is not closed"), statement);
+        text += QStringView(statement).sliced(at, end - at);
+        at = end + 1;
+        if (at >= statement.size() || statement[at] != quote) return text;
+        text += quote;
+    }
+}
+
+/// Behind the name, word or symbol at `at`.
+qsizetype behindPlain(const QString& statement, qsizetype at) {
+    const QChar c = statement[at];
+    if (c == u'?' || c == u';') refuse(c, statement);
+    if (c == u'[') {
+        const qsizetype end = statement.indexOf(u']', at);
+        if (end < 0) refuse(QStringLiteral("["), statement);
+        return end + 1;
+    }
+    if (isWordStart(c))
+        while (at + 1 < statement.size() && isWordPart(statement[at + 1])) ++at;
+    return at + 1;
 }
 
 enum class TokenKind { Word, Name, Value, Symbol };
@@ -259,52 +287,29 @@ bool hasAggregate(const Tokens& tokens, size_t from, size_t to) {
 Shape shapeOf(const QString& statement) {
     Shape shape;
     shape.text.reserve(statement.size());
+    qsizetype copied = 0;  // what stands before this is in the shape
     for (qsizetype i = 0; i < statement.size();) {
         const QChar c = statement[i];
+        const qsizetype begin = i;
         if (c == u'"' || c == u'\'') {
-            QString text;
-            for (++i;; ++i) {
-                if (i >= statement.size()) refuse(QStringLiteral("a quote is not closed"), statement);
-                if (statement[i] != c) {
-                    text += statement[i];
-                } else if (i + 1 < statement.size() && statement[i + 1] == c) {
-                    text += statement[i++];
-                } else {
-                    break;
-                }
-            }
-            ++i;
-            shape.text += u'?';
-            shape.values.emplace_back(std::move(text));
+            shape.values.emplace_back(textLiteral(statement, i));
         } else if (c == u'#') {
             const qsizetype end = statement.indexOf(u'#', i + 1);
             if (end < 0) refuse(QStringLiteral("a date is not closed"), statement);
             shape.values.push_back(dateLiteral(statement.mid(i + 1, end - i - 1), statement));
-            shape.text += u'?';
             i = end + 1;
-        } else if (c == u'[') {
-            const qsizetype end = statement.indexOf(u']', i);
-            if (end < 0) refuse(QStringLiteral("["), statement);
-            shape.text += QStringView(statement).mid(i, end - i + 1);
-            i = end + 1;
-        } else if (isWordStart(c)) {
-            qsizetype end = i + 1;
-            while (end < statement.size() && isWordPart(statement[end])) ++end;
-            shape.text += QStringView(statement).mid(i, end - i);
-            i = end;
         } else if (c.isDigit()) {
-            qsizetype end = i + 1;
-            while (end < statement.size() && (statement[end].isDigit() || statement[end] == u'.')) ++end;
-            shape.values.push_back(numberLiteral(QStringView(statement).mid(i, end - i)));
-            shape.text += u'?';
-            i = end;
-        } else if (c == u'?' || c == u';') {
-            refuse(c, statement);
+            while (i < statement.size() && (statement[i].isDigit() || statement[i] == u'.')) ++i;
+            shape.values.push_back(numberLiteral(QStringView(statement).sliced(begin, i - begin)));
         } else {
-            shape.text += c;
-            ++i;
+            i = behindPlain(statement, i);
+            continue;
         }
+        shape.text += QStringView(statement).sliced(copied, begin - copied);
+        shape.text += u'?';
+        copied = i;
     }
+    shape.text += QStringView(statement).sliced(copied);
     return shape;
 }
 

@@ -64,7 +64,21 @@ QTime toTime(const Value& value) {
     return QTime(digits(*text, at, 2), digits(*text, at + 3, 2), digits(*text, at + 6, 2));
 }
 
-Value fromDate(const QDate& date) { return date.isValid() ? Value{date.toString(Qt::ISODate)} : Value{}; }
+Value fromDate(const QDate& date) {
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    date.getDate(&year, &month, &day);
+    if (year < 1 || year > 9999) return {};
+    QString text(QStringLiteral("0000-00-00"));
+    const auto write = [&text](qsizetype end, int number) {
+        for (; number > 0; number /= 10) text[--end] = QChar(u'0' + number % 10);
+    };
+    write(4, year);
+    write(7, month);
+    write(10, day);
+    return text;
+}
 
 Value fromTime(const QTime& time) { return time.isValid() ? Value{time.toString(Qt::ISODate)} : Value{}; }
 

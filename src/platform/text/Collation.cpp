@@ -93,12 +93,14 @@ struct Key {
     /// `plainText` is the text with plain letters.
     Key(QStringView entry, QStringView plainText) : text(entry), names(plainText) {
         constexpr qsizetype longestDate = 10;
-        const QStringView separator = u" - ";
-        const qsizetype ending = std::max<qsizetype>(names.size() - longestDate - separator.size(), 0);
-        const qsizetype at = names.sliced(ending).lastIndexOf(separator);
-        if (at < 0 || !names.sliced(ending + at).contains(u'/')) return;
-        date = names.sliced(ending + at + separator.size());
-        names = names.first(ending + at);
+        const qsizetype first = std::max<qsizetype>(names.size() - longestDate, 3);
+        for (qsizetype begin = names.size() - 1; begin >= first; --begin) {
+            if (names[begin - 1] != u' ' || names[begin - 2] != u'-' || names[begin - 3] != u' ') continue;
+            if (!names.sliced(begin).contains(u'/')) return;
+            date = names.sliced(begin);
+            names = names.first(begin - 3);
+            return;
+        }
     }
     explicit Key(QStringView plainText) : Key(plainText, plainText) {}
 
