@@ -15,7 +15,10 @@ Form* PlayerPane::buildForm() {
     addParentsTab(builder);
     addSchoolTab(builder);
     addMedicalTab(builder);
-    addCustomTab(builder);
+    clsRegistration& p = player_;
+    addCustomTab(builder, {&p.PlayerCustomField1, &p.PlayerCustomField2, &p.PlayerCustomField3, &p.PlayerCustomField4,
+                           &p.PlayerCustomField5, &p.PlayerCustomField6});
+    addOutsideFrame(builder);
     form->setDateFormat(program().globals().defaultDateFormat);
     const QStringList amounts{"mskedPlayerFeeAmount", "mskedPlayerFundRaiserFee", "mskedPlayerOtherFees", "mskedPlayerAmountPaid",
                               "cboPlayerDivision"};  // which gives the fee
@@ -23,11 +26,6 @@ Form* PlayerPane::buildForm() {
         if (amounts.contains(field)) showBalance();
     });
     return form;
-}
-
-QStringList PlayerPane::lookup(const QString& query, const QString& column) {
-    const auto entries = program().store.workspace.openDatabase(program().store.dataFilePath).readList(query, column);
-    return QStringList(entries.begin(), entries.end());
 }
 
 void PlayerPane::addPersonalFrame(FormBuilder& builder) {

@@ -1,12 +1,7 @@
 #include "platform/text/KeyFilters.h"
 #include "platform/widgets/FormBuilder.h"
 #include "registration/PlayerPane.h"
-#include "setup/clsOptions.h"
 #include "shell/Bound.h"
-#include "shell/Program.h"
-#include "shell/Screens.h"
-
-#include <QPushButton>
 
 // The player form behind its first tab.
 
@@ -131,42 +126,13 @@ void PlayerPane::addMedicalTab(FormBuilder& builder) {
         .comments("txtPlayerMedicalComments", {}, p.PlayerMedicalComments, FilterTextWide);
 }
 
-void PlayerPane::addCustomTab(FormBuilder& builder) {
+void PlayerPane::addOutsideFrame(FormBuilder& builder) {
     clsRegistration& p = player_;
-    Text* const fields[] = {&p.PlayerCustomField1, &p.PlayerCustomField2, &p.PlayerCustomField3,
-                            &p.PlayerCustomField4, &p.PlayerCustomField5, &p.PlayerCustomField6};
-    builder.tab(tr("Custom Fields")).column(3).frame(tr("Custom Fields"), 1);
-    int number = 0;
-    for (Text* field : fields) {
-        ++number;
-        builder.text(QStringLiteral("txtPlayerCustomField%1").arg(number), tr("Custom Field Label %1").arg(number), *field, FilterTextFull);
-    }
-    auto* define = new QPushButton(tr("Define Custom Field La&bels"));
-    define->setObjectName(QStringLiteral("cmdDefineCustomFieldLabels"));
-    define->setAutoDefault(false);
-    define->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    connect(define, &QPushButton::clicked, this, [this] {
-        program().screens.show(QStringLiteral("frmOptions.CustomFields"));
-        showCustomLabels();
-    });
-    builder.custom(define)
+    builder
         .column(2)
         .frame(tr("With Respect to the Player..."), 1)
         .check("chkPlayerSendInvitation", tr("Send Invitation to the Team Web Site?"), p.PlayerSendInvitation)
         .check("chkPlayerParentApproval", tr("Parent Approval for the Team Web Site?"), p.PlayerParentApproval)
         .check("chkPlayerPhotoOptIn", tr("Photo Opt In?"), p.PlayerPhotoOptIn)
         .text("txtPlayerLarkfoldMemberId", tr("Member Id"), p.PlayerLarkfoldMemberId, FilterTextFull);
-}
-
-/// Custom fields stand under the label that the league gave them, or the default one.
-void PlayerPane::showCustomLabels() {
-    const DefaultsRecord defaults(program().store);
-    const Text* const labels[] = {&defaults.RegCustomFieldLabel1, &defaults.RegCustomFieldLabel2, &defaults.RegCustomFieldLabel3,
-                                  &defaults.RegCustomFieldLabel4, &defaults.RegCustomFieldLabel5, &defaults.RegCustomFieldLabel6};
-    int number = 0;
-    for (const Text* label : labels) {
-        ++number;
-        form().setCaption(QStringLiteral("txtPlayerCustomField%1").arg(number),
-                          (*label)().isEmpty() ? tr("Custom Field Label %1").arg(number) : (*label)());
-    }
 }

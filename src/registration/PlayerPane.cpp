@@ -13,15 +13,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
-namespace {
-
-/// Nothing typed, or the untouched mask of a phone.
-bool isBlank(const Text& text) { return text().trimmed().isEmpty() || text().trimmed() == u"-"; }
-
-}  // namespace
-
 PlayerPane::PlayerPane(Program& program)
-    : RecordPane(program, {.tag = "Player",
+    : PersonPane(program, {.tag = "Player",
                            .caption = tr("Player Registrations"),
                            .searchName = "cboPlayerSearchList",
                            .searchCaption = tr("C&urrent Player"),
@@ -30,7 +23,31 @@ PlayerPane::PlayerPane(Program& program)
                                         "FROM tblRegistration WHERE tblRegistration![DeletedFlag] = False "
                                         "ORDER BY [PlayerLastName], [PlayerFirstName], [PlayerBirthDate]",
                            .checkTitle = tr("Validation Error - Player Registration"),
-                           .missingText = tr("Error!  Player Name not found in Search List")}),
+                           .missingText = tr("Error!  Player Name not found in Search List"),
+                           .leaveQuestion = tr("Save the current Player record?"),
+                           .menu = tr("Player Registration"),
+                           .noun = tr("Player")},
+                 {.table = "tblRegistration",
+                  .idColumn = "PlayerId",
+                  .activeColumn = "PlayerActive",
+                  .followers = {"tblAbilityRating", "tblEquipmentAssignment", "tblRegistrationVolunteer", "tblVolToPosition"},
+                  .prefix = "Player",
+                  .labelColumn = "RegCustomFieldLabel",
+                  .addQuestion = tr("A record for %1 %2 with the current\nbirth date was not found, and neither the Add New\n"
+                                    "nor Add Sibling buttons were pressed.\n\nWould you like to add a New Player record?\n"
+                                    "   Yes -> Add New Record\n   No  -> Update the current record\n"
+                                    "   Cancel -> No changes written to database."),
+                  .takenTitle = tr("Unable to Update Player Record"),
+                  .takenText = tr("Unable to change the name or birth date of Player %1 %2.\n"
+                                  "A record already exists for Player %1 %2 with the same Birth Date.\n\n"
+                                  "Please enter a different First Name, Last Name, or Birth Date."),
+                  .duplicateQuestion = tr("A record already exists for the Player %1 %2\nwith the same Birth Date as the record "
+                                          "that is being added or updated.\n\n"
+                                          "Would you like to overwrite the current record in the database?"),
+                  .overwriteQuestion = tr("A record for player %1 %2 already exists.\n\nDo you want to overwrite the current record?"),
+                  .renameError = tr("An error occurred in trying to Rename a player.\nPlease report this error to Kestrelmoor support."),
+                  .equipmentError = tr("The Player being deleted has Equipment assigned to them.\n"
+                                       "Delete any equipment assignments\nbefore deleting this record.")}),
       player_(program.store),
       division_(program.store),
       volunteer_(program.store) {
@@ -38,16 +55,11 @@ PlayerPane::PlayerPane(Program& program)
     showCustomLabels();
 }
 
-void PlayerPane::refresh() {
-    RecordPane::refresh();
-    showCustomLabels();
-}
-
 bool PlayerPane::find(const QString& entry) { return player_.FindPlayerRecord(entry, false, true) && !player_.PlayerDeletedFlag; }
 
 void PlayerPane::shown() {
     bool found = false;
-    if (!player_.IsPlayerNew()) loaded_ = key();
+    PersonPane::shown();
     divisionName_.clear();
     if (player_.PlayerDivisionId != 0) division_.FindDivisionRecordById(player_.PlayerDivisionId, false, true, found);
     if (found) divisionName_ = division_.DivName;
@@ -170,7 +182,7 @@ std::vector<Finding> PlayerPane::check() const {
 }
 
 bool PlayerPane::write() {
-    if (!settleIdentity()) return false;
+    if (settleIdentity() == Settled::Stop) return false;
     remindOfParents();
     settleSchool();
     if (!RecordPane::write()) return false;
@@ -198,25 +210,10 @@ void PlayerPane::settleSchool() {
 
 QString PlayerPane::deleteQuestion() const { return tr("Are you sure you want to delete player %1?").arg(name()); }
 
-bool PlayerPane::mayDelete() {
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
-    datafile::Recordset held = database.openRecordset("SELECT * FROM tblEquipmentAssignment WHERE [PlayerId] = " +
-                                                      QString::number(player_.PlayerId) + " AND [DeletedFlag] = False");
-    if (held.eof()) return true;
-    program().dialogs().error(tr("Delete Error..."), tr("The Player being deleted has Equipment assigned to them.\n"
-                                                         "Delete any equipment assignments\nbefore deleting this record."));
-    cancel();
-    return false;
-}
-
-void PlayerPane::erase() {
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
-    datafile::Transaction transaction(database);
-    datafile::Recordset ratings = database.openRecordset("SELECT * FROM tblAbilityRating WHERE [PlayerId] = " +
-                                                         QString::number(player_.PlayerId) + " AND [DeletedFlag] = False");
-    softDeleteAll(ratings, program().clock());
-    player_.DeletePlayerRecord();
-    transaction.commit();
+std::optional<PersonPane::Twin> PlayerPane::twin() const {
+    clsRegistration other(program().store);
+    if (!other.FindPlayerRecord(name(), false, true)) return {};
+    return Twin{other.PlayerId, other.PlayerDeletedFlag};
 }
 
 void PlayerPane::addSibling() {

@@ -3,15 +3,15 @@
 #include <array>
 
 #include "league/clsDivision.h"
+#include "registration/PersonPane.h"
 #include "registration/clsRegistration.h"
 #include "registration/clsVolunteer.h"
-#include "shell/RecordPane.h"
 
 class FormBuilder;
 struct Money;
 
 /// Where a registrar types one child at a time.
-class PlayerPane final : public RecordPane {
+class PlayerPane final : public PersonPane {
     Q_OBJECT
 
 public:
@@ -30,13 +30,10 @@ private:
     void addParentsTab(FormBuilder& builder);
     void addSchoolTab(FormBuilder& builder);
     void addMedicalTab(FormBuilder& builder);
-    void addCustomTab(FormBuilder& builder);
-    void showCustomLabels();
+    void addOutsideFrame(FormBuilder& builder);
     /// The live entries of a lookup table, in order.
     QStringList liveNames(const char* table, const char* column);
-    QStringList lookup(const QString& query, const QString& column);
 
-    void refresh() override;
     bool find(const QString& entry) override;
     QString name() const override { return key().text(); }
     QString unsavedName() const override { return player_.PlayerLastName(); }
@@ -45,9 +42,13 @@ private:
     void makeNew() override;
     QString firstField() const override { return QStringLiteral("txtPlayerLastName"); }
     QString deleteQuestion() const override;
-    bool mayDelete() override;
-    void erase() override;
     void shown() override;
+
+    std::optional<Twin> twin() const override;
+    bool standOnTwin() override { return player_.FindPlayerRecord(name(), false, false); }
+    int id() const override { return player_.PlayerId; }
+    bool isActive() const override { return player_.PlayerActive; }
+    QString firstName() const override { return player_.PlayerFirstName; }
 
     PlayerKey key() const { return {player_.PlayerLastName(), player_.PlayerFirstName(), player_.PlayerBirthDate()}; }
     void settleSchool();
@@ -58,13 +59,6 @@ private:
     void showBalance(const Money& balance, bool due);
     void showUsualChoices();
     QString usualFundRaiserFee();
-
-    // The questions before a save (PlayerIdentity.cpp).
-    bool settleIdentity();
-    bool settleRename();
-    bool settleNew();
-    bool refuseRename();
-    void revive(int retiredId, int revivedId);
 
     // The parents as volunteers (PlayerParents.cpp).
     struct Parent;
@@ -88,5 +82,4 @@ private:
     bool momVolunteers_ = false;
     QString divisionName_;
     QString teamName_;
-    PlayerKey loaded_;  ///< of the record as it came from the file
 };

@@ -173,6 +173,31 @@ void clsRegistration::UpdateOldVolInfo(const QString& parent, const ParentName& 
                                QStringLiteral(" WHERE ") + criteria.join(QStringLiteral(" AND "))) > 0;
 }
 
+void clsRegistration::RecalculatePlayerAges(StoreContext& context) {
+    const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
+    const CutOff defaults{context.globals.defaultAgeCutoffMonth, context.globals.defaultAgeCutoffDay};
+    QHash<qint64, CutOff> cutOffs;
+    datafile::Recordset divisions = database.openRecordset("SELECT * FROM tblDivision ORDER BY DivisionId");
+    for (; !divisions.eof(); divisions.moveNext())
+        cutOffs.insert(
+            divisions.number("DivisionId"),
+            cutOffByField({divisions.text("DivAgeCutOffMonth"), divisions.text("DivAgeCutOffDay")}, defaults));
+    const CutOff otherwise = cutOffByField({}, defaults);
+    datafile::Transaction transaction(database);
+    datafile::Recordset players = database.openRecordset(
+        "SELECT [PlayerDivisionId], [PlayerBirthDate], [PlayerAge] FROM tblRegistration WHERE [PlayerDivisionId] <> 0");
+    for (; !players.eof(); players.moveNext()) {
+        const CutOff cutOff = cutOffs.value(players.number("PlayerDivisionId"), otherwise);
+        const int age = CalculateAge(shortDate(players.date("PlayerBirthDate")), cutOff.month, cutOff.day,
+                                     context.globals.currentSeasonYear);
+        if (players.number("PlayerAge", -1) == age) continue;
+        players.edit();
+        players.set("PlayerAge", age);
+        players.update();
+    }
+    transaction.commit();
+}
+
 void clsRegistration::RemovePlayerAssignments(int divisionId, int teamId) {
     database().execute(QStringLiteral("UPDATE tblRegistration SET [PlayerTeamId] = 0, ") +
                        freshStamps(context().clock) + QStringLiteral(" WHERE ") +

@@ -198,6 +198,8 @@ public:
     /// Every player with the parent (`parent` is "Dad" or "Mom") of that name and phone takes the new names, phone and
     /// area, in one statement. `found` tells whether there was one.
     void UpdateOldVolInfo(const QString& parent, const ParentName& old, const ParentName& now, bool& found);
+    /// Gives every player, deleted or not, the age that division and season make today. No stamps.
+    static void RecalculatePlayerAges(StoreContext& context);
     /// Leaves all players of the team without one, deleted players too; they stay in the division.
     void RemovePlayerAssignments(int divisionId, int teamId);
     /// Kinds: 1 not deleted, 2 active, 3 inactive, 4 deleted.

@@ -22,6 +22,10 @@ void RecordPane::start(RecordClass& record, Form* form) {
     layout->addWidget(searchRow());
     layout->addWidget(form_, 1);
     connect(form_, &Form::changed, this, &RecordPane::beginEditing);
+    showFirst();
+}
+
+void RecordPane::showFirst() {
     readList();
     show(search_->entryCount() > 0 ? 0 : -1);
 }
@@ -236,7 +240,7 @@ QString RecordPane::deleteQuestion() const {
 void RecordPane::remove() {
     const int index = search_->currentIndex();
     if (index < 0 || !find(search_->entryAt(index)) || !mayDelete()) return;
-    const QString deleted = name();
+    const QString deleted = deletedName();
     if (!program_.dialogs().ask(tr("Delete Confirmation"), deleteQuestion())) {
         Q_EMIT said(tr("Record \"%1\" NOT Deleted.").arg(deleted));
         return;
@@ -247,12 +251,16 @@ void RecordPane::remove() {
     Q_EMIT said(tr("Record \"%1\" Deleted.").arg(deleted));
 }
 
-bool RecordPane::offerToSave(const QString& question) {
+/// After a new record that was not wanted there is none in view.
+bool RecordPane::offerToSave(const QString& question, const QString& title) {
     if (!record_->isChanged()) return true;
-    if (program_.dialogs().ask(tr("Save Record?"), question.isEmpty() ? tr("Save the current record?") : question)) return save();
+    if (program_.dialogs().ask(title.isEmpty() ? tr("Save Record?") : title,
+                               question.isEmpty() ? tr("Save the current record?") : question))
+        return save();
     const QString unsaved = unsavedName();
+    const bool wasNew = record_->isNew();
     dropEdits();
-    show(search_->indexOf(shownEntry_));
+    show(wasNew ? -1 : search_->indexOf(shownEntry_));
     Q_EMIT said(tr("Record \"%1\" NOT saved.").arg(unsaved));
     return true;
 }

@@ -21,6 +21,8 @@ struct PaneText {
     QString checkTitle;     ///< of the box with what the entry lacks
     QString missingText;    ///< says that the saved record is not in its list
     QString leaveQuestion{};  ///< asked when its tab is left with unsaved work; empty: as everywhere
+    QString menu{};           ///< its group of the Data menu; empty: as the tab
+    QString noun{};           ///< in that menu: "Player" makes "New Player"; empty: "Add New"
 };
 
 /// One finding of a pane's check of its entries.
@@ -51,11 +53,13 @@ public:
     void cancel();
     virtual void refresh();
     /// Asks, when there is unsaved work, whether to save it. False: the user stays with it.
-    bool offerToSave(const QString& question = {});
+    bool offerToSave(const QString& question = {}, const QString& title = {});
     /// As offerToSave(), before the screen closes: a save that fails may be given up.
     bool offerToSaveBeforeClosing();
     /// Shows what others changed meanwhile; a record that is being edited stays as it is.
     void catchUp();
+    /// Reads the list anew and shows its first record; unsaved work is dropped.
+    void showFirst();
     void focusSearch();
 
 Q_SIGNALS:
@@ -68,6 +72,7 @@ protected:
     void start(RecordClass& record, Form* form);
 
     Program& program() const { return program_; }
+    RecordClass& record() const { return *record_; }
     Form& form() { return *form_; }
     SearchCombo& search() { return *search_; }
     /// Begins a new record that `blank` prepares.
@@ -81,6 +86,8 @@ protected:
     virtual QString name() const = 0;
     /// The same, of a record that the user chose not to save.
     virtual QString unsavedName() const { return name(); }
+    /// The same, of a record that was deleted.
+    virtual QString deletedName() const { return name(); }
     /// The record's text in the search list.
     virtual QString entry() const { return name(); }
     virtual std::vector<Finding> check() const = 0;

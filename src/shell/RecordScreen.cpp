@@ -63,14 +63,15 @@ void RecordScreen::addPane(RecordPane* added) {
 /// The Data menu holds one submenu a pane; the same orders as the buttons.
 void RecordScreen::addMenu(RecordPane* added) {
     const QString& tag = added->text().tag;
-    QMenu* menu = dataMenu()->addMenu(added->text().caption);
+    const QString& noun = added->text().noun;
+    QMenu* menu = dataMenu()->addMenu(added->text().menu.isEmpty() ? added->text().caption : added->text().menu);
     menu->menuAction()->setObjectName(QStringLiteral("mnuData") + tag);
     const auto entry = [&](const char* what, const QString& caption, auto run) {
         QAction* action = addEntry(menu, QStringLiteral("mnuData%1%2Record").arg(QLatin1String(what), tag), caption, run);
         return action;
     };
-    entries_.push_back({added, menu->menuAction(), entry("New", tr("Add &New"), [added] { added->addNew(); }),
-                        entry("Save", tr("&Save"), [added] { added->save(); }), entry("Delete", tr("De&lete"), [added] { added->remove(); }),
+    entries_.push_back({added, menu->menuAction(), entry("New", noun.isEmpty() ? tr("Add &New") : tr("&New %1").arg(noun), [added] { added->addNew(); }),
+                        entry("Save", noun.isEmpty() ? tr("&Save") : tr("&Save %1").arg(noun), [added] { added->save(); }), entry("Delete", noun.isEmpty() ? tr("De&lete") : tr("De&lete %1").arg(noun), [added] { added->remove(); }),
                         entry("Cancel", tr("Can&cel"), [added] { added->cancel(); })});
 }
 
@@ -100,6 +101,7 @@ void RecordScreen::changeTab(int index) {
     ResetStatusBar();
     if (RecordPane* current = pane()) current->catchUp();
     showState();
+    focusSearch();
 }
 
 void RecordScreen::showState() {
