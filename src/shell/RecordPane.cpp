@@ -34,7 +34,7 @@ QWidget* RecordPane::searchRow() {
     auto* caption = new QLabel(text_.searchCaption, row);
     search_ = new SearchCombo(QString(text_.searchCaption).remove(u'&'), row);
     search_->setObjectName(text_.searchName);
-    search_->setShownCharacters(40);
+    search_->setShownCharacters(text_.searchCharacters);
     caption->setBuddy(search_);
     layout->addWidget(caption);
     layout->addWidget(search_);
@@ -247,9 +247,11 @@ void RecordPane::remove() {
     Q_EMIT said(tr("Record \"%1\" Deleted.").arg(deleted));
 }
 
-bool RecordPane::offerToSave(const QString& question) {
+bool RecordPane::offerToSave(const QString& question, const QString& title) {
     if (!record_->isChanged()) return true;
-    if (program_.dialogs().ask(tr("Save Record?"), question.isEmpty() ? tr("Save the current record?") : question)) return save();
+    if (program_.dialogs().ask(title.isEmpty() ? tr("Save Record?") : title,
+                               question.isEmpty() ? tr("Save the current record?") : question))
+        return save();
     const QString unsaved = unsavedName();
     dropEdits();
     show(search_->indexOf(shownEntry_));

@@ -21,6 +21,7 @@ struct PaneText {
     QString checkTitle;     ///< of the box with what the entry lacks
     QString missingText;    ///< says that the saved record is not in its list
     QString leaveQuestion{};  ///< asked when its tab is left with unsaved work; empty: as everywhere
+    int searchCharacters = 40;  ///< shown of the search list
 };
 
 /// One finding of a pane's check of its entries.
@@ -51,7 +52,7 @@ public:
     void cancel();
     virtual void refresh();
     /// Asks, when there is unsaved work, whether to save it. False: the user stays with it.
-    bool offerToSave(const QString& question = {});
+    bool offerToSave(const QString& question = {}, const QString& title = {});
     /// As offerToSave(), before the screen closes: a save that fails may be given up.
     bool offerToSaveBeforeClosing();
     /// Shows what others changed meanwhile; a record that is being edited stays as it is.

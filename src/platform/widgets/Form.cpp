@@ -18,6 +18,12 @@ void Form::addField(Field field) {
 
 void Form::addPage(QWidget* page) { pages_.push_back(page); }
 
+void Form::setTabs(QTabWidget* tabs) {
+    connect(tabs, &QTabWidget::currentChanged, this, [this] {
+        if (!goingToField_) Q_EMIT tabPicked();
+    });
+}
+
 Form::Kept* Form::find(const QString& name) {
     const auto found =
         std::find_if(fields_.begin(), fields_.end(), [&](const Kept& field) { return field.name == name; });
@@ -79,6 +85,7 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
 void Form::focusField(const QString& name) {
     auto* editor = findChild<QWidget*>(name);
     if (!editor) return;
+    const QScopedValueRollback going(goingToField_, true);
     for (QWidget* around = editor->parentWidget(); around; around = around->parentWidget()) {
         auto* tabs = qobject_cast<QTabWidget*>(around);
         for (int index = 0; tabs && index < tabs->count(); ++index)

@@ -6,6 +6,7 @@
 #include <vector>
 
 class QLabel;
+class QTabWidget;
 
 /// A form that is filled from the values its fields are bound to and writes each user's edit back at once. A
 /// FormBuilder lays it out. Editors are children with the object names of their fields: findChild() gives them.
@@ -47,6 +48,8 @@ public:
     void addField(Field field);
     /// A widget whose content setFieldsEnabled() switches.
     void addPage(QWidget* page);
+    /// The form's tabs, whose changes it tells.
+    void setTabs(QTabWidget* tabs);
     /// The user edited the field: writes the value, tells of it, and refills the other fields whose values changed by
     /// it.
     void edit(const QString& name, const QVariant& value);
@@ -56,6 +59,8 @@ Q_SIGNALS:
     void changed(const QString& name);
     /// The user left this field. The focus has arrived elsewhere and may be called back.
     void left(const QString& name);
+    /// The user brought another tab of the form forward.
+    void tabPicked();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -74,4 +79,5 @@ private:
     std::vector<Kept> fields_;
     std::vector<QWidget*> pages_;
     bool loading_ = false;
+    bool goingToField_ = false;
 };

@@ -71,6 +71,7 @@ FormBuilder& FormBuilder::tab(const QString& title) {
         auto* layout = new QVBoxLayout(form_);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(tabs_);
+        form_->setTabs(tabs_);
     }
     auto* area = new QScrollArea(tabs_);
     scrolled(area)->layout()->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
