@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "registration/PlayerPane.h"
+#include "registration/SponsorPane.h"
 #include "registration/VolunteerPane.h"
 #include "registration/clsRegistration.h"
 #include "shell/Program.h"
@@ -17,6 +18,10 @@ frmRegister::frmRegister(Program& program) : RecordScreen(program, QStringLitera
     findChild<QAction*>(QStringLiteral("mnuDataNewSiblingRecord"))->setText(tr("New S&ibling"));
     auto* volunteers = new VolunteerPane(program);
     addPane(volunteers);
+    auto* sponsors = new SponsorPane(program);
+    addPane(sponsors);
+    addOrder(sponsors, {}, tr("New Sponsor &Pledge"), QStringLiteral("mnuDataNewSponsorPledgeRecord"),
+             [sponsors] { sponsors->addPledge(); });
 
     addFileEntries();
     toolsMenu()->addSeparator();

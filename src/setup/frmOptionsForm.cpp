@@ -3,6 +3,7 @@
 #include "platform/widgets/FormLayout.h"
 #include "setup/frmOptions.h"
 #include "shell/Bound.h"
+#include "shell/Choices.h"
 #include "shell/MonthDay.h"
 #include "shell/Program.h"
 #include "store/Schema.h"
@@ -16,29 +17,6 @@
 // The pages of the preferences.
 
 namespace {
-
-constexpr char phoneMask[] = "(###) ###-####";
-constexpr char zipMask[] = "#####-####";
-
-/// A masked text of which an untouched mask is kept as nothing, and a zip without its extension without the dash.
-Binding maskedBinding(Text& text) {
-    return {[&text] { return text(); },
-            [&text](const QString& shown) {
-                QString kept = shown;
-                while (!kept.isEmpty() && !kept.back().isLetterOrNumber()) kept.chop(1);
-                text = kept;
-            },
-            text.size()};
-}
-
-QStringList list(const Program& program, const char* query, const char* column) {
-    const auto entries = program.store.workspace.openDatabase(program.store.dataFilePath).readList(query, column);
-    return QStringList(entries.begin(), entries.end());
-}
-
-QStringList states(const Program& program) {
-    return list(program, "SELECT [StateId] from tblState ORDER BY [StateId]", "StateId");
-}
 
 QPushButton* plainButton(const QString& name, const QString& caption) {
     auto* button = new QPushButton(caption);
@@ -67,7 +45,7 @@ void frmOptions::addOrganizationPage(FormBuilder& builder) {
         .span(2)
         .text("txtAddress2", tr("Address &2"), o.Address2, FilterTextWide)
         .text("txtCity", tr("Ci&ty *"), o.City, FilterTextFull)
-        .choice("cboStateId", tr("State/Pro&v. *"), o.StateId, states(program_),
+        .choice("cboStateId", tr("State/Pro&v. *"), o.StateId, stateIds(program_),
                 ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
         .masked("mskedZipCode", tr("&Zip Code *"), zipMask, maskedBinding(o.ZipCode))
         .text("txtPostalCode", tr("or &Postal Code *"), o.PostalCode, FilterTextFull)
@@ -89,7 +67,7 @@ void frmOptions::addDefaultsPage(FormBuilder& builder) {
         .frame(tr("Season"), 1)
         .masked("mskedCurrentSeason", tr("Season &Year"), "####", o.CurrentSeasonYear)
         .choice("cboOrgAffiliation", tr("Aff&iliation"), o.OrgAffiliation,
-                list(program_,
+                listOf(program_,
                      "SELECT DISTINCT[OrganizationName] FROM tblOfficialDivisionNames ORDER BY [OrganizationName]",
                      "OrganizationName"))
         .choice("cboDefaultDateFormat", tr("Da&te Format"),
@@ -112,7 +90,7 @@ void frmOptions::addDefaultsPage(FormBuilder& builder) {
         .frame(tr("Address of New Records"), 2)
         .span(2)
         .text("txtDefaultCity", tr("City"), d.DefaultCity, FilterTextFull)
-        .choice("cboDefaultStateId", tr("State/Pro&v."), d.DefaultStateId, states(program_),
+        .choice("cboDefaultStateId", tr("State/Pro&v."), d.DefaultStateId, stateIds(program_),
                 ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
         .masked("mskedDefaultZipCode", tr("&Zip Code"), zipMask, maskedBinding(d.DefaultZipCode))
         .text("txtDefaultPostalCode", tr("&Postal Code"), d.DefaultPostalCode, FilterTextFull)

@@ -38,7 +38,7 @@ QWidget* RecordPane::searchRow() {
     auto* caption = new QLabel(text_.searchCaption, row);
     search_ = new SearchCombo(QString(text_.searchCaption).remove(u'&'), row);
     search_->setObjectName(text_.searchName);
-    search_->setShownCharacters(40);
+    search_->setShownCharacters(text_.searchCharacters);
     caption->setBuddy(search_);
     layout->addWidget(caption);
     layout->addWidget(search_);

@@ -23,6 +23,7 @@ struct PaneText {
     QString leaveQuestion{};  ///< asked when its tab is left with unsaved work; empty: as everywhere
     QString menu{};           ///< its group of the Data menu; empty: as the tab
     QString noun{};           ///< in that menu: "Player" makes "New Player"; empty: "Add New"
+    int searchCharacters = 40;  ///< shown of the search list
 };
 
 /// One finding of a pane's check of its entries.

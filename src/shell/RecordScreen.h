@@ -17,7 +17,11 @@ public:
     RecordScreen(Program& program, const QString& name, QSize designSize);
     /// The pane becomes the screen's. The first one added is in view.
     void addPane(RecordPane* pane);
-    /// Null when the tab in view holds no record pane.
+    /// A tab that holds several panes, each with its own buttons to add and delete. While one of them is edited the
+    /// others wait.
+    void addPage(const QString& caption, QWidget* page, const std::vector<RecordPane*>& panes);
+    /// The pane of the tab in view; where it holds several, the one that is edited or else the first. Null when it
+    /// holds none.
     RecordPane* pane() const;
     bool offerToSave() override;
     void focusSearch() override;
@@ -26,18 +30,23 @@ protected:
     void cameForward() override;
     void undo() override;
     /// A further order of one pane, as a button behind Add New and an entry of its menu; possible while it is not edited.
+    /// Without a button's name there is only the entry.
     void addOrder(RecordPane* pane, const QString& button, const QString& caption, const QString& entry, const std::function<void()>& run);
     QTabWidget& tabs() { return *tabs_; }
 
 private:
     QPushButton* addButton(const QString& name, const QString& caption, void (RecordPane::*press)());
-    void addMenu(RecordPane* pane);
+    void addMenu(RecordPane* pane, QWidget* page);
+    RecordPane* paneOf(const QWidget* page) const;
+    void refresh();
+    void catchUp();
     void changeTab(int index);
     void showState();
     void press(void (RecordPane::*what)());
 
     struct Entry {
         RecordPane* pane;
+        QWidget* page;  ///< the tab it is on: itself, or a page with others
         QAction* menu;
         QAction* add;
         QAction* save;

@@ -1,0 +1,95 @@
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include "platform/widgets/FormBuilder.h"
+#include "registration/SponsorPane.h"
+#include "shell/Bound.h"
+#include "shell/Choices.h"
+#include "shell/Program.h"
+
+Form* SponsorPane::buildForm() {
+    auto* form = new Form(this);
+    FormBuilder builder(form);
+    addInformationTab(builder);
+    addPledgeTab(builder);
+    return form;
+}
+
+void SponsorPane::addInformationTab(FormBuilder& builder) {
+    clsSponsors& s = sponsor_;
+    builder.tab(tr("Sponsor Information"))
+        .column(3)
+        .frame(tr("Sponsor"))
+        .text("txtSponsorName", tr("Sponsor N&ame *"), s.SponsorName, FilterTextFull)
+        .text("txtSponsorContactName", tr("Contact Name"), s.SponsorContactName, FilterTextFull)
+        .text("txtSponsorAddress1", tr("Street Address"), s.SponsorAddress1, FilterTextWide)
+        .text("txtSponsorAddress2", tr("Apt. Number"), s.SponsorAddress2, FilterTextWide)
+        .text("txtSponsorCity", tr("Cit&y"), s.SponsorCity, FilterTextFull)
+        .choice("cboSponsorStateId", tr("State/Prov"), s.SponsorStateId, stateIds(program()),
+                ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
+        .together(tr("Zip/Postal"))
+        .masked("mskedSponsorZipCode", tr("Zip"), "#####", maskedBinding(s.SponsorZipCode))
+        .masked("mskedSponsorZipCode4", tr("Zip extension"), "####", maskedBinding(s.SponsorZipCode4))
+        .text("txtSponsorPostalCode", tr("or Postal Code"), s.SponsorPostalCode, FilterTextFull)
+        .choice("cboSponsorCountryCode", tr("Country"), s.SponsorCountryCode, {"Canada", "USA"},
+                ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
+        .row()
+        .phone("mskedSponsorPhoneArea", "mskedSponsorPhone", tr("&Phone"), s.SponsorPhoneArea, s.SponsorPhone)
+        .phone("mskedSponsorFaxPhoneArea", "mskedSponsorFaxPhone", tr("FA&X"), s.SponsorFaxPhoneArea, s.SponsorFaxPhone)
+        .column(2)
+        .frame(tr("Pledge"), 1)
+        .masked("mskedSponsorPledgeYear", tr("Pled&ge Year *"), "####", maskedBinding(s.SponsorPledgeYear))
+        .money("mskedSponsorPledgeAmount", tr("Pledge A&mount *"), s.SponsorPledgeAmount)
+        .money("mskedSponsorPaidAmount", tr("Amount Pa&id"), s.SponsorPaidAmount)
+        .frame(tr("Team"), 1)
+        .text("txtSponsorColorRequest", tr("Color(s) Requested"), s.SponsorColorRequest, FilterTextFull)
+        .text("txtSponsorNbrOfTeams", tr("Nbr. of Teams Sponsored"), s.SponsorNbrOfTeams, FilterNumeric)
+        .below()
+        .frame(tr("Comments"), 1)
+        .comments("txtSponsorComments", {}, s.SponsorComments, FilterTextWide);
+}
+
+void SponsorPane::addPledgeTab(FormBuilder& builder) {
+    clsSponsors& s = sponsor_;
+    auto* add = new QPushButton(tr("Add Ne&w Pledge"));
+    add->setObjectName(QStringLiteral("cmdAddNewPledge"));
+    add->setAutoDefault(false);
+    add->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    auto* hint =
+        new QLabel(tr("To Delete a Previous Pledge - Right click on a row and select Delete from the Popup Menu."));
+    hint->setWordWrap(true);
+    builder.tab(tr("Pledge Information"))
+        .frame({}, 1)
+        .shown("lblPledgeSponsorName", tr("Sponsor Name"), [&s] { return s.SponsorName(); })
+        .below()
+        .column(2)
+        .frame(tr("New/Current Pledge"), 1)
+        .masked("mskedCurrentPledgeYear", tr("Pled&ge Year"), "####", maskedBinding(s.SponsorPledgeYear))
+        .money("mskedCurrentPledgeAmount", tr("Pledge A&mount"), s.SponsorPledgeAmount)
+        .money("mskedCurrentPaidAmount", tr("Amount Pa&id"), s.SponsorPaidAmount)
+        .custom(add)
+        .column(3)
+        .frame(tr("Previous Pledges"), 1)
+        .custom(makeGrid())
+        .custom(hint);
+}
+
+QTableWidget* SponsorPane::makeGrid() {
+    pledges_ = new QTableWidget(0, 3);
+    pledges_->setObjectName(QStringLiteral("grdPreviousPledges"));
+    pledges_->setAccessibleName(tr("Previous Pledges"));
+    pledges_->setHorizontalHeaderLabels({tr("Pledge Year"), tr("Pledge Amt."), tr("Paid Amt.")});
+    pledges_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    pledges_->horizontalHeader()->setSectionsClickable(false);
+    pledges_->horizontalHeader()->setHighlightSections(false);
+    pledges_->verticalHeader()->hide();
+    pledges_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    pledges_->setSelectionMode(QAbstractItemView::ContiguousSelection);
+    pledges_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    pledges_->setTabKeyNavigation(false);
+    pledges_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(pledges_, &QWidget::customContextMenuRequested, this, &SponsorPane::offerPledgeMenu);
+    return pledges_;
+}

@@ -1,0 +1,101 @@
+#include "setup/UniformPage.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QScrollArea>
+
+#include "platform/widgets/FormLayout.h"
+#include "setup/LookupPane.h"
+#include "setup/clsUniform.h"
+
+namespace {
+
+/// What differs from garment to garment.
+struct GarmentText {
+    Garment garment;
+    QString tag;    ///< "PantSize": of its table, its boxes and its buttons
+    QString title;  ///< "Pants Size"
+    QString searchCaption;
+};
+
+LookupPane<UniformSize>::Lookup lookupOf(const GarmentText& text, const QString& checkTitle) {
+    const QString& tag = text.tag;
+    return {.text = {.tag = tag,
+                     .caption = text.title,
+                     .searchName = u"cbo" + tag + u"SearchList",
+                     .searchCaption = text.searchCaption,
+                     .moveName = u"cmd" + tag + u"Move",
+                     .listQuery = u"SELECT *, ([" + tag + u"Text]) as Name FROM tbl" + tag +
+                                  u" WHERE [DeletedFlag] = False ORDER BY [" + tag + u"Text]",
+                     .checkTitle = checkTitle,
+                     .missingText = UniformPage::tr("Error!  %1 not found in Search List").arg(text.title),
+                     .searchCharacters = 20},
+            .find = &UniformSize::FindSizeRecord,
+            .key = &UniformSize::SizeText,
+            .boxes = {{u"txt" + tag + u"Text", UniformPage::tr("Description *"), &UniformSize::SizeText,
+                       UniformPage::tr("The %1 Description is a required entry.").arg(text.title)},
+                      {u"txt" + tag, UniformPage::tr("Designator *"), &UniformSize::Size,
+                       UniformPage::tr("The %1 Designator is a required entry.").arg(text.title)}},
+            .statusName = [](const UniformSize& size) { return QString(size.Size() + u" - " + size.SizeText()); }};
+}
+
+/// Inside the pane, so that they wait with it while another one is edited.
+void addButtons(RecordPane& pane, const QString& tag, const QString& title) {
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    const auto button = [&](const char* what, const QString& caption, void (RecordPane::*press)()) {
+        auto* made = new QPushButton(caption);
+        made->setObjectName(u"cmd" + QLatin1String(what) + tag);
+        made->setAutoDefault(false);
+        QObject::connect(made, &QPushButton::clicked, &pane, press);
+        buttons->addWidget(made);
+        return made;
+    };
+    auto* add = button("Add", UniformPage::tr("Add %1").arg(title), &RecordPane::addNew);
+    auto* remove = button("Delete", UniformPage::tr("Delete %1").arg(title), &RecordPane::remove);
+    static_cast<QVBoxLayout*>(pane.layout())->addLayout(buttons);
+    const auto showState = [&pane, add, remove] {
+        add->setEnabled(!pane.isEditing());
+        remove->setEnabled(pane.canDelete());
+    };
+    QObject::connect(&pane, &RecordPane::stateChanged, add, showState);
+    showState();
+}
+
+}  // namespace
+
+UniformPage::UniformPage(Program& program, const QString& checkTitle) {
+    auto* outside = new QVBoxLayout(this);
+    outside->setContentsMargins({});
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    outside->addWidget(area);
+    auto* content = new QWidget;
+    auto* grid = new QGridLayout(content);
+    grid->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
+    grid->setSpacing(spacing::group);
+    const GarmentText garments[] = {
+        {Garment::Pant, "PantSize", tr("Pants Size"), tr("Current &Pants Size")},
+        {Garment::Shirt, "ShirtSize", tr("Shirt Size"), tr("Current Sh&irt Size")},
+        {Garment::Hat, "HatSize", tr("Hat Size"), tr("Current H&at Size")},
+        {Garment::Socks, "SocksSize", tr("Socks Size"), tr("Current Soc&ks Size")},
+        {Garment::Shoe, "ShoeSize", tr("Shoe Size"), tr("Current Shoe Si&ze")},
+    };
+    for (const GarmentText& text : garments) {
+        auto* pane = new LookupPane<UniformSize>(program, lookupOf(text, checkTitle), text.garment);
+        pane->layout()->setContentsMargins({});
+        addButtons(*pane, text.tag, text.title);
+        auto* frame = new QGroupBox(text.title);
+        (new QVBoxLayout(frame))->addWidget(pane);
+        const int place = static_cast<int>(panes_.size());
+        grid->addWidget(frame, place / 2, place % 2, Qt::AlignTop);
+        panes_.push_back(pane);
+    }
+    grid->setRowStretch(grid->rowCount(), 1);
+    area->setWidget(content);
+    area->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+}
