@@ -2,6 +2,7 @@
 
 #include "platform/text/Dates.h"
 #include "store/AgeRule.h"
+#include "store/LeagueAges.h"
 #include "store/Lookup.h"
 
 namespace {
@@ -174,28 +175,7 @@ void clsRegistration::UpdateOldVolInfo(const QString& parent, const ParentName& 
 }
 
 void clsRegistration::RecalculatePlayerAges(StoreContext& context) {
-    const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
-    const CutOff defaults{context.globals.defaultAgeCutoffMonth, context.globals.defaultAgeCutoffDay};
-    QHash<qint64, CutOff> cutOffs;
-    datafile::Recordset divisions = database.openRecordset("SELECT * FROM tblDivision ORDER BY DivisionId");
-    for (; !divisions.eof(); divisions.moveNext())
-        cutOffs.insert(
-            divisions.number("DivisionId"),
-            cutOffByField({divisions.text("DivAgeCutOffMonth"), divisions.text("DivAgeCutOffDay")}, defaults));
-    const CutOff otherwise = cutOffByField({}, defaults);
-    datafile::Transaction transaction(database);
-    datafile::Recordset players = database.openRecordset(
-        "SELECT [PlayerDivisionId], [PlayerBirthDate], [PlayerAge] FROM tblRegistration WHERE [PlayerDivisionId] <> 0");
-    for (; !players.eof(); players.moveNext()) {
-        const CutOff cutOff = cutOffs.value(players.number("PlayerDivisionId"), otherwise);
-        const int age = CalculateAge(shortDate(players.date("PlayerBirthDate")), cutOff.month, cutOff.day,
-                                     context.globals.currentSeasonYear);
-        if (players.number("PlayerAge", -1) == age) continue;
-        players.edit();
-        players.set("PlayerAge", age);
-        players.update();
-    }
-    transaction.commit();
+    recalculateLeagueAges(context, context.workspace.openDatabase(context.dataFilePath));
 }
 
 void clsRegistration::RemovePlayerAssignments(int divisionId, int teamId) {
