@@ -141,6 +141,26 @@ TEST_F(ParentsTest, VolunteerOfThatNameAndPhoneIsLinkedAndComesBack) {
     EXPECT_EQ(links(), QStringList{"1 Dan Dad"});
 }
 
+TEST_F(ParentsTest, EachParentIsLinkedInTheirOwnRole) {
+    addDan({1});
+    execute(
+        "INSERT INTO tblVolunteer ([VolLastName], [VolFirstName], [VolHomePhone]) VALUES (\"Young\", \"Eve\", "
+        "\"555-0177\")");
+    open();
+    enter("txtPlayerMomLastName", "Young");
+    enter("txtPlayerMomFirstName", "eve");
+    enter("mskedPlayerMomPhone", "5550177");
+    control<QRadioButton>(screen, "optPlayerMomVolunteer0")->click();
+    save();
+    EXPECT_EQ(links(), (QStringList{"1 Dan Dad", "1 Eve Mom"}));
+    EXPECT_EQ(volunteerRows(), (QStringList{"Smith Dan 555-0100 1", "Young Eve 555-0177 1"}));
+    answer(false);
+    dialogs.expectQuestion(retireTitle, BoxAnswer::Yes);
+    save();
+    EXPECT_EQ(links(), (QStringList{"(1 Dan Dad)", "1 Eve Mom"}));
+    EXPECT_TRUE(control<QRadioButton>(screen, "optPlayerMomVolunteer0")->isChecked());
+}
+
 TEST_F(ParentsTest, NewVolunteerIsMadeThroughTheFormOrNotAtAll) {
     open();
     answer(true);
