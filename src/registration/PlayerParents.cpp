@@ -117,8 +117,12 @@ bool PlayerPane::makeVolunteer(const Parent& parent) {
     return true;
 }
 
+/// A link whose volunteer was purged counts as none.
 void PlayerPane::followLink(const Parent& parent) {
-    volunteer_.find(matches("VolId", volunteer_.RegVolVolId), true);
+    if (!volunteer_.find(matches("VolId", volunteer_.RegVolVolId), true)) {
+        volunteer_.DeleteRegVolRecord();
+        return linkVolunteer(parent);
+    }
     clsVolunteer& v = volunteer_;
     const bool sameName = v.VolLastName().compare(parent.lastName(), Qt::CaseInsensitive) == 0 &&
                           v.VolFirstName().compare(parent.firstName(), Qt::CaseInsensitive) == 0;
@@ -168,15 +172,16 @@ void PlayerPane::replaceVolunteer(const Parent& parent) {
 }
 
 void PlayerPane::endVolunteering() {
-    volunteer_.find(matches("VolId", volunteer_.RegVolVolId), true);
-    const int id = volunteer_.VolId;
-    const QString name = u'"' + volunteer_.VolFirstName() + u' ' + volunteer_.VolLastName() + u'"';
+    const int id = volunteer_.RegVolVolId;
+    const bool known = volunteer_.find(matches("VolId", id), true);
     int links = 0;
     volunteer_.CountRegVolRecords(id, links);
-    const bool retire = links < 2 && program().dialogs().ask(tr("Delete Volunteer Record?"),
-                                                             tr("A Volunteer record was found for %1\nand no other players are associated with\nthis volunteer.\n\n"
-                                                                "Would you like to delete this %1 Volunteer record?")
-                                                                 .arg(name));
+    const QString name = u'"' + volunteer_.VolFirstName() + u' ' + volunteer_.VolLastName() + u'"';
+    const bool retire = known && links < 2 &&
+                        program().dialogs().ask(tr("Delete Volunteer Record?"),
+                                                tr("A Volunteer record was found for %1\nand no other players are associated with\nthis volunteer.\n\n"
+                                                   "Would you like to delete this %1 Volunteer record?")
+                                                    .arg(name));
     volunteer_.DeleteRegVolRecord();
     if (retire) volunteer_.DeleteVolRecord();
     volunteer_.DeleteAllVolToPositionRecords(id, player_.PlayerId);

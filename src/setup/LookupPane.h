@@ -19,13 +19,14 @@ public:
         Text Record::*property;
         QString required{};  ///< the finding when it is empty; none for a box that may be
         BoxAs as = BoxAs::Text;
-        QString frame{};  ///< begins a frame of this title, in which boxes stand side by side
+        QString frame{};  ///< begins a frame of this title
     };
     struct Lookup {
         PaneText text;
         bool (Record::*find)(const QString& name, bool show, bool load);
         Text Record::*key;
         std::vector<Box> boxes;
+        bool sideBySide = false;                                ///< two boxes on a line
         void (*cascade)(Record& record) = nullptr;              ///< what goes with a record that is deleted
         QString (*statusName)(const Record& record) = nullptr;  ///< where it is not the key
     };
@@ -36,12 +37,10 @@ public:
         : RecordPane(program, lookup.text), record_(program.store, what...), lookup_(std::move(lookup)) {
         auto* form = new Form(this);
         FormBuilder builder(form);
-        bool alone = true;
         for (const Box& box : lookup_.boxes) {
-            if (!box.frame.isEmpty()) alone = false;
             if (!box.frame.isEmpty() || &box == &lookup_.boxes.front()) builder.frame(box.frame);
             addBox(builder, box);
-            if (alone) builder.row();
+            if (!lookup_.sideBySide) builder.row();
         }
         start(record_, form);
     }

@@ -1,9 +1,10 @@
 #include "setup/UniformPage.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QVBoxLayout>
 
 #include "platform/widgets/FormLayout.h"
 #include "setup/LookupPane.h"
@@ -37,6 +38,7 @@ LookupPane<UniformSize>::Lookup lookupOf(const GarmentText& text, const QString&
                        UniformPage::tr("The %1 Description is a required entry.").arg(text.title)},
                       {u"txt" + tag, UniformPage::tr("Designator *"), &UniformSize::Size,
                        UniformPage::tr("The %1 Designator is a required entry.").arg(text.title)}},
+            .sideBySide = true,
             .statusName = [](const UniformSize& size) { return QString(size.Size() + u" - " + size.SizeText()); }};
 }
 
@@ -74,9 +76,19 @@ UniformPage::UniformPage(Program& program, const QString& checkTitle) {
     area->setFocusPolicy(Qt::NoFocus);
     outside->addWidget(area);
     auto* content = new QWidget;
-    auto* grid = new QGridLayout(content);
-    grid->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
-    grid->setSpacing(spacing::group);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
+    auto* row = new ColumnRow(content);
+    layout->addWidget(row);
+    layout->addStretch(1);
+    QVBoxLayout* columns[2];
+    for (QVBoxLayout*& column : columns) {
+        auto* widget = new QWidget(row);
+        column = new QVBoxLayout(widget);
+        column->setContentsMargins({});
+        column->setSpacing(spacing::group);
+        row->addColumn(widget, 1);
+    }
     const GarmentText garments[] = {
         {Garment::Pant, "PantSize", tr("Pants Size"), tr("Current &Pants Size")},
         {Garment::Shirt, "ShirtSize", tr("Shirt Size"), tr("Current Sh&irt Size")},
@@ -87,14 +99,17 @@ UniformPage::UniformPage(Program& program, const QString& checkTitle) {
     for (const GarmentText& text : garments) {
         auto* pane = new LookupPane<UniformSize>(program, lookupOf(text, checkTitle), text.garment);
         pane->layout()->setContentsMargins({});
+        auto* lines = pane->findChild<QScrollArea*>();
+        const auto* box = pane->findChild<QLineEdit*>(u"txt" + text.tag);
+        lines->setFixedHeight(box->sizeHint().height() + spacing::group);  // one line; the page scrolls instead
         addButtons(*pane, text.tag, text.title);
         auto* frame = new QGroupBox(text.title);
         (new QVBoxLayout(frame))->addWidget(pane);
-        const int place = static_cast<int>(panes_.size());
-        grid->addWidget(frame, place / 2, place % 2, Qt::AlignTop);
+        frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        columns[panes_.size() % 2]->addWidget(frame);
         panes_.push_back(pane);
     }
-    grid->setRowStretch(grid->rowCount(), 1);
+    for (QVBoxLayout* column : columns) column->addStretch(1);
     area->setWidget(content);
     area->viewport()->setAutoFillBackground(false);
     content->setAutoFillBackground(false);

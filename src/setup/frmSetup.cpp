@@ -127,7 +127,8 @@ void frmSetup::addVendors(Program& program) {
                    {"mskedVendorZipCode", tr("&Zip Code"), &clsVendor::VendorZipCode, {}, BoxAs::Zip},
                    {"txtVendorPostalCode", tr("or Postal Code"), &clsVendor::VendorPostalCode},
                    {"cboVendorCountryCode", tr("Country"), &clsVendor::VendorCountryCode, {}, BoxAs::Country},
-                   {"txtVendorComments", tr("Co&mments"), &clsVendor::VendorComments, {}, BoxAs::Comments}}}));
+                   {"txtVendorComments", tr("Co&mments"), &clsVendor::VendorComments, {}, BoxAs::Comments}},
+         .sideBySide = true}));
 }
 
 void frmSetup::addInsurance(Program& program) {
@@ -144,30 +145,26 @@ void frmSetup::addInsurance(Program& program) {
                   .missingText = tr("Error!  Insurance Agency Name not found in Search List")},
          .find = &clsInsurance::FindInsRecord,
          .key = &clsInsurance::InsAgencyName,
-         .boxes = {
-             {"txtInsAgencyName", tr("A&gency Name *"), &clsInsurance::InsAgencyName,
-              tr("The Insurance Agency Name is a required entry."), BoxAs::Text, tr("Agency")},
-             {"txtInsCompanyName", tr("Company N&ame *"), &clsInsurance::InsCompanyName,
-              tr("The Insurance Company Name is a required entry.")},
-             {"txtInsContactName", tr("Contact Name"), &clsInsurance::InsContactName},
-             {"txtInsPolicyNumber", tr("Polic&y Number"), &clsInsurance::InsPolicyNumber},
-             {"mskedInsPhone", tr("&Phone"), &clsInsurance::InsPhone, {}, BoxAs::Phone},
-             {"mskedInsFax", tr("FA&X"), &clsInsurance::InsFax, {}, BoxAs::Phone},
-             {"txtInsAddress1", tr("Address &1"), &clsInsurance::InsAddress1, {}, BoxAs::Text, tr("Address")},
-             {"txtInsAddress2", tr("Address &2"), &clsInsurance::InsAddress2},
-             {"txtInsCity", tr("City"), &clsInsurance::InsCity},
-             {"cboInsStateId", tr("State/Prov."), &clsInsurance::InsStateId, {}, BoxAs::State},
-             {"mskedInsZipCode", tr("&Zip Code"), &clsInsurance::InsZipCode, {}, BoxAs::Zip},
-             {"txtInsPostalCode", tr("or Postal Code"), &clsInsurance::InsPostalCode},
-             {"cboInsCountryCode", tr("Country"), &clsInsurance::InsCountryCode, {}, BoxAs::Country},
-             {"mskedInsLiabilityLimit",
-              tr("Liability L&imit"),
-              &clsInsurance::InsLiabilityLimit,
-              {},
-              BoxAs::Money,
-              tr("Policy")},
-             {"mskedInsDeductibleAmt", tr("Deducti&ble Amount"), &clsInsurance::InsDeductibleAmt, {}, BoxAs::Money},
-             {"txtInsComments", tr("Co&mments"), &clsInsurance::InsComments, {}, BoxAs::Comments}}}));
+         .boxes =
+             {{"txtInsAgencyName", tr("A&gency Name *"), &clsInsurance::InsAgencyName,
+               tr("The Insurance Agency Name is a required entry."), BoxAs::Text, tr("Agency and Policy")},
+              {"txtInsCompanyName", tr("Company N&ame *"), &clsInsurance::InsCompanyName,
+               tr("The Insurance Company Name is a required entry.")},
+              {"txtInsContactName", tr("Contact Name"), &clsInsurance::InsContactName},
+              {"txtInsPolicyNumber", tr("Polic&y Number"), &clsInsurance::InsPolicyNumber},
+              {"mskedInsPhone", tr("&Phone"), &clsInsurance::InsPhone, {}, BoxAs::Phone},
+              {"mskedInsFax", tr("FA&X"), &clsInsurance::InsFax, {}, BoxAs::Phone},
+              {"mskedInsLiabilityLimit", tr("Liability L&imit"), &clsInsurance::InsLiabilityLimit, {}, BoxAs::Money},
+              {"mskedInsDeductibleAmt", tr("Deducti&ble Amount"), &clsInsurance::InsDeductibleAmt, {}, BoxAs::Money},
+              {"txtInsAddress1", tr("Address &1"), &clsInsurance::InsAddress1, {}, BoxAs::Text, tr("Address")},
+              {"txtInsAddress2", tr("Address &2"), &clsInsurance::InsAddress2},
+              {"txtInsCity", tr("City"), &clsInsurance::InsCity},
+              {"cboInsStateId", tr("State/Prov."), &clsInsurance::InsStateId, {}, BoxAs::State},
+              {"mskedInsZipCode", tr("&Zip Code"), &clsInsurance::InsZipCode, {}, BoxAs::Zip},
+              {"txtInsPostalCode", tr("or Postal Code"), &clsInsurance::InsPostalCode},
+              {"cboInsCountryCode", tr("Country"), &clsInsurance::InsCountryCode, {}, BoxAs::Country},
+              {"txtInsComments", tr("Co&mments"), &clsInsurance::InsComments, {}, BoxAs::Comments}},
+         .sideBySide = true}));
 }
 
 void frmSetup::addSchools(Program& program) {

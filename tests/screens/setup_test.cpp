@@ -76,6 +76,10 @@ TEST_F(SetupTest, EachTabAsksForWhatItNeeds) {
               "The Volunteer Position Title Name is a required entry.\nThe Certification Name is a required entry."},
              {"Ability Ratings", "txtRatingText",
               "The Rating Text field is a required entry.\nThe Rating Value field is a required entry."},
+             {"Vendors", "txtVendorName", "The Vendor Name is a required entry."},
+             {"Insurance", "txtInsAgencyName",
+              "The Insurance Agency Name is a required entry.\nThe Insurance Company Name is a required entry."},
+             {"How Fee Paid", "txtHowFeePaidText", "The How Fee Paid Text is a required entry."},
              {"Schools", "txtSchoolName", "The School Name is a required entry."},
              {"Difficulty Ratings", "txtDifficultyRatingText", "The Difficulty Rating Text field is a required entry."}};
     for (const auto& tab : tabs) {
@@ -201,6 +205,75 @@ TEST_F(SetupTest, ScreenThatComesForwardShowsWhatOthersChanged) {
     running.open("frmSetup")->activateWindow();
     EXPECT_TRUE(QTest::qWaitFor([&] { return list("cboSchoolList") == QStringList{"Ash", "Elm"}; }));
     EXPECT_EQ(control<QLineEdit>(screen, "txtSchoolName")->text(), "Elm");
+}
+
+TEST_F(SetupTest, MaskedTextsAreKeptAsShownAndUntouchedMasksAsNothing) {
+    const struct {
+        const char* tab;
+        const char* table;
+        std::vector<std::array<const char*, 4>> boxes;  ///< box, typed, column, kept
+    } tabs[]{{"Vendors",
+              "tblVendor",
+              {{"txtVendorName", "Acme", "VendorName", "Acme"},
+               {"mskedVendorContactPhone", "5035550100", "VendorContactPhone", "(503) 555-0100"},
+               {"mskedVendorZipCode", "97050", "VendorZipCode", "97050"},
+               {"cboVendorStateId", "or", "VendorStateId", "OR"},
+               {"mskedVendorCreditLimit", "1250", "VendorCreditLimit", "1250"}}},
+             {"Insurance",
+              "tblInsurance",
+              {{"txtInsAgencyName", "Acme", "InsAgencyName", "Acme"},
+               {"txtInsCompanyName", "Bolt", "InsCompanyName", "Bolt"},
+               {"mskedInsPhone", "", "InsPhone", ""},
+               {"mskedInsFax", "5550100", "InsFax", "(555) 010-0"},
+               {"mskedInsZipCode", "970501234", "InsZipCode", "97050-1234"}}}};
+    for (const auto& tab : tabs) {
+        SCOPED_TRACE(tab.tab);
+        showTab(tab.tab);
+        press(screen, "cmdAdd");
+        for (const auto& box : tab.boxes) type(screen, box[0], box[1]);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        press(screen, "cmdSave");
+        EXPECT_EQ(status(screen), "Record \"Acme\" Saved.");
+        for (const auto& box : tab.boxes) EXPECT_EQ(running.league.value(tab.table, box[2]), box[3]) << box[0];
+    }
+}
+
+TEST_F(SetupTest, EachGarmentHasItsOwnSizesAndWaitsWhileAnotherIsEdited) {
+    showTab("Uniform Sizes");
+    EXPECT_FALSE(control(screen, "cmdAdd")->isVisible());
+    const struct {
+        const char* tag;
+        const char* called;
+    } garments[]{{"PantSize", "Pants"}, {"ShirtSize", "Shirt"}, {"HatSize", "Hat"}, {"SocksSize", "Socks"}, {"ShoeSize", "Shoe"}};
+    for (const auto& each : garments) {
+        SCOPED_TRACE(each.tag);
+        const QString tag = each.tag;
+        const auto named = [&tag](const char* pattern) { return QString(pattern).arg(tag).toLatin1(); };
+        const QStringList before = list(named("cbo%1SearchList"));
+        press(screen, named("cmdAdd%1"));
+        running.league.dialogs.expectWarning("Critical Error - Defaults Setup",
+                                             QString("The %1 Size Description is a required entry.\n"
+                                                     "The %1 Size Designator is a required entry.").arg(each.called));
+        press(screen, "cmdSave");
+        for (const auto& other : garments)
+            EXPECT_EQ(control(screen, QString("txt%1Text").arg(other.tag).toLatin1())->isEnabled(), tag == other.tag);
+        type(screen, named("txt%1Text"), "Aaa Small");
+        type(screen, named("txt%1"), "AS");
+        press(screen, "cmdSave");
+        EXPECT_EQ(status(screen), "Record \"AS - Aaa Small\" Saved.");
+        EXPECT_EQ(list(named("cbo%1SearchList")), QStringList{"Aaa Small"} + before);
+        for (const auto& other : garments) EXPECT_TRUE(enabled(QString("cmdAdd%1").arg(other.tag).toLatin1()));
+        for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
+            running.league.dialogs.expectQuestion("Delete Confirmation", answer);
+            press(screen, named("cmdDelete%1"));
+            EXPECT_EQ(status(screen), QString("Record \"AS - Aaa Small\" %1Deleted.").arg(answer == BoxAnswer::No ? "NOT " : ""));
+        }
+        EXPECT_EQ(list(named("cbo%1SearchList")), before);
+    }
+    press(screen, "cmdAddShoeSize");
+    running.league.dialogs.expectQuestion("Save Record?", BoxAnswer::No);
+    showSchools();
+    EXPECT_TRUE(control(screen, "cmdAdd")->isVisible()) << "the last garment's work was offered to be saved";
 }
 
 }  // namespace
