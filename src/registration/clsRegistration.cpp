@@ -183,18 +183,23 @@ void clsRegistration::RecalculatePlayerAges(StoreContext& context) {
             divisions.number("DivisionId"),
             cutOffByField({divisions.text("DivAgeCutOffMonth"), divisions.text("DivAgeCutOffDay")}, defaults));
     const CutOff otherwise = cutOffByField({}, defaults);
-    datafile::Transaction transaction(database);
+    QMap<int, QStringList> changed;  // who is of this age now
     datafile::Recordset players = database.openRecordset(
-        "SELECT [PlayerDivisionId], [PlayerBirthDate], [PlayerAge] FROM tblRegistration WHERE [PlayerDivisionId] <> 0");
+        "SELECT [PlayerId], [PlayerDivisionId], [PlayerBirthDate], [PlayerAge] FROM tblRegistration WHERE "
+        "[PlayerDivisionId] <> 0");
     for (; !players.eof(); players.moveNext()) {
         const CutOff cutOff = cutOffs.value(players.number("PlayerDivisionId"), otherwise);
         const int age = CalculateAge(shortDate(players.date("PlayerBirthDate")), cutOff.month, cutOff.day,
                                      context.globals.currentSeasonYear);
-        if (players.number("PlayerAge", -1) == age) continue;
-        players.edit();
-        players.set("PlayerAge", age);
-        players.update();
+        if (players.number("PlayerAge", -1) != age) changed[age] << players.text("PlayerId");
     }
+    constexpr qsizetype atOnce = 500;
+    datafile::Transaction transaction(database);
+    for (auto each = changed.cbegin(); each != changed.cend(); ++each)
+        for (qsizetype first = 0; first < each->size(); first += atOnce)
+            database.execute(QStringLiteral("UPDATE tblRegistration SET [PlayerAge] = %1 WHERE [PlayerId] IN (%2)")
+                                 .arg(each.key())
+                                 .arg(each->mid(first, atOnce).join(u',')));
     transaction.commit();
 }
 
