@@ -39,16 +39,15 @@ VolunteerLinks::VolunteerLinks(Program& program, clsVolunteer& volunteer)
     layout->setContentsMargins({});
     layout->setSpacing(spacing::label);
     layout->addWidget(name_);
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(spacing::group);
-    columns->addWidget(playersGroup(), 3);
+    auto* columns = new ColumnRow(this);
+    columns->addColumn(playersGroup(), 3);
     positions_ = new ListMover(QStringLiteral("lstVolPositions"), tr("Volunteer Pos&ition(s)"),
                                tr("Positions Availa&ble"), this);
     certifications_ = new ListMover(QStringLiteral("lstVolCertifications"), tr("Certifications Received"),
                                     tr("Available Certifications"), this);
-    columns->addWidget(moverGroup(tr("Positions"), positions_), 4);
-    columns->addWidget(moverGroup(tr("Certifications"), certifications_), 4);
-    layout->addLayout(columns, 1);
+    columns->addColumn(moverGroup(tr("Positions"), positions_), 4);
+    columns->addColumn(moverGroup(tr("Certifications"), certifications_), 4);
+    layout->addWidget(columns, 1);
     auto* note = new QLabel(tr("Note:  Data from this window is automatically written to or deleted from the "
                                "database.  No \"Save\" is necessary."),
                             this);

@@ -1,6 +1,7 @@
 #include "registration/frmRegister.h"
 
 #include <QAction>
+#include <QGuiApplication>
 #include <QMenu>
 
 #include "registration/PlayerPane.h"
@@ -8,6 +9,19 @@
 #include "registration/VolunteerPane.h"
 #include "registration/clsRegistration.h"
 #include "shell/Program.h"
+
+namespace {
+
+/// For the length of a work on many records.
+class WaitCursor {
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+}  // namespace
 
 frmRegister::frmRegister(Program& program) : RecordScreen(program, QStringLiteral("frmRegister"), {1240, 700}) {
     setWindowTitle(tr("Kestrelmoor - Player/Parent/Volunteer/Sponsor Registrations"));
@@ -59,13 +73,19 @@ void frmRegister::purge(const Purge& what) {
     const QString title = tr("Delete Inactive Players");
     if (what.pane && !what.pane->offerToSave(what.pane->text().leaveQuestion)) return;
     if (!program_.dialogs().ask(title, what.question)) return program_.dialogs().information(title, what.cancelled);
-    DeleteRecords(program_.store, what.kind);
-    if (what.pane) what.pane->showFirst();
+    {
+        const WaitCursor wait;
+        DeleteRecords(program_.store, what.kind);
+        if (what.pane) what.pane->showFirst();
+    }
     program_.dialogs().information(title, what.done);
 }
 
 void frmRegister::recalculatePlayerAges(RecordPane* players) {
-    clsRegistration::RecalculatePlayerAges(program_.store);
-    players->catchUp();
+    {
+        const WaitCursor wait;
+        clsRegistration::RecalculatePlayerAges(program_.store);
+        players->catchUp();
+    }
     program_.dialogs().information(tr("Age Calculation Complete"), tr("All Player Ages have been recalculated."));
 }
