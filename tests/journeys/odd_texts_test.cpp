@@ -9,6 +9,7 @@
 #include "platform/widgets/DateBox.h"
 #include "platform/widgets/SearchCombo.h"
 #include "support/Printing.h"
+#include "shell/RecordPane.h"
 #include "support/RunningProgram.h"
 
 namespace {
@@ -109,13 +110,16 @@ TEST_P(OddTextTest, IsKeptAndFoundInEveryBoxOfThePlayerForm) {
 TEST_P(OddTextTest, IsKeptAndFoundInEveryBoxOfTheSetup) {
     Screen* screen = running.open("frmSetup");
     auto* tabs = screen->findChild<QTabWidget*>();
-    for (int tab = 0; tab < tabs->count(); ++tab) {
-        tabs->setCurrentIndex(tab);
-        pane = tabs->currentWidget();
+    for (auto* each : screen->findChildren<RecordPane*>()) {
+        for (int tab = 0; tab < tabs->count(); ++tab)
+            if (tabs->widget(tab) == each || tabs->widget(tab)->isAncestorOf(each)) tabs->setCurrentIndex(tab);
+        pane = each;
+        // One of several on a tab has an Add button of its own.
+        const QString addButton = tabs->currentWidget() == each ? QString("cmdAdd") : "cmdAdd" + each->text().tag;
         const auto* list = pane->findChild<SearchCombo*>();
         SCOPED_TRACE(list->objectName().toStdString());
         const auto add = [&](const QString& text) {
-            press(screen, "cmdAdd");
+            press(screen, qPrintable(addButton));
             pasteIntoAll(text);
             pasteIntoEmpty("7");  // such as a box for numbers
             const Shown typed = shown();

@@ -105,7 +105,7 @@ TEST_F(RegistrationScreenTest, AgesAreRecalculatedAndNothingElse) {
         const char* age;
     } cases[]{{"[PlayerDivisionId] = 1, [PlayerAge] = 3", "14"},
               {"[PlayerDivisionId] = 77, [PlayerAge] = 3, [DeletedFlag] = True", "13"},
-              {"[PlayerDivisionId] = 0, [PlayerAge] = 3", "3"}};
+              {"[PlayerDivisionId] = 0, [PlayerAge] = 3", "13"}};
     int id = 0;
     for (const auto& each : cases)
         execute(
