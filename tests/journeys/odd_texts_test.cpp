@@ -2,12 +2,15 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <map>
 
 #include "platform/text/Money.h"
 #include "platform/widgets/DateBox.h"
 #include "platform/widgets/SearchCombo.h"
+#include "shell/RecordPane.h"
 #include "support/Printing.h"
 #include "support/RunningProgram.h"
 
@@ -109,13 +112,16 @@ TEST_P(OddTextTest, IsKeptAndFoundInEveryBoxOfThePlayerForm) {
 TEST_P(OddTextTest, IsKeptAndFoundInEveryBoxOfTheSetup) {
     Screen* screen = running.open("frmSetup");
     auto* tabs = screen->findChild<QTabWidget*>();
-    for (int tab = 0; tab < tabs->count(); ++tab) {
-        tabs->setCurrentIndex(tab);
-        pane = tabs->currentWidget();
+    for (auto* each : tabs->findChildren<RecordPane*>()) {
+        pane = each;
+        for (int tab = 0; tab < tabs->count(); ++tab)
+            if (tabs->widget(tab) == pane || tabs->widget(tab)->isAncestorOf(pane)) tabs->setCurrentIndex(tab);
         const auto* list = pane->findChild<SearchCombo*>();
         SCOPED_TRACE(list->objectName().toStdString());
+        const auto ownAdd = pane->findChildren<QPushButton*>(QRegularExpression("^cmdAdd"));
+        const QString addName = ownAdd.isEmpty() ? QStringLiteral("cmdAdd") : ownAdd.first()->objectName();
         const auto add = [&](const QString& text) {
-            press(screen, "cmdAdd");
+            press(screen, qPrintable(addName));
             pasteIntoAll(text);
             pasteIntoEmpty("7");  // such as a box for numbers
             const Shown typed = shown();
