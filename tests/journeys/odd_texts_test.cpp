@@ -2,14 +2,16 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <map>
 
 #include "platform/text/Money.h"
 #include "platform/widgets/DateBox.h"
 #include "platform/widgets/SearchCombo.h"
-#include "support/Printing.h"
 #include "shell/RecordPane.h"
+#include "support/Printing.h"
 #include "support/RunningProgram.h"
 
 namespace {
@@ -110,16 +112,16 @@ TEST_P(OddTextTest, IsKeptAndFoundInEveryBoxOfThePlayerForm) {
 TEST_P(OddTextTest, IsKeptAndFoundInEveryBoxOfTheSetup) {
     Screen* screen = running.open("frmSetup");
     auto* tabs = screen->findChild<QTabWidget*>();
-    for (auto* each : screen->findChildren<RecordPane*>()) {
-        for (int tab = 0; tab < tabs->count(); ++tab)
-            if (tabs->widget(tab) == each || tabs->widget(tab)->isAncestorOf(each)) tabs->setCurrentIndex(tab);
+    for (auto* each : tabs->findChildren<RecordPane*>()) {
         pane = each;
-        // One of several on a tab has an Add button of its own.
-        const QString addButton = tabs->currentWidget() == each ? QString("cmdAdd") : "cmdAdd" + each->text().tag;
+        for (int tab = 0; tab < tabs->count(); ++tab)
+            if (tabs->widget(tab) == pane || tabs->widget(tab)->isAncestorOf(pane)) tabs->setCurrentIndex(tab);
         const auto* list = pane->findChild<SearchCombo*>();
         SCOPED_TRACE(list->objectName().toStdString());
+        const auto ownAdd = pane->findChildren<QPushButton*>(QRegularExpression("^cmdAdd"));
+        const QString addName = ownAdd.isEmpty() ? QStringLiteral("cmdAdd") : ownAdd.first()->objectName();
         const auto add = [&](const QString& text) {
-            press(screen, qPrintable(addButton));
+            press(screen, qPrintable(addName));
             pasteIntoAll(text);
             pasteIntoEmpty("7");  // such as a box for numbers
             const Shown typed = shown();

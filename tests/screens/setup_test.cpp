@@ -60,8 +60,9 @@ TEST_F(SetupTest, SavedRecordsStandInTheListWithAccentedNamesBesideTheirPlainOne
 
 TEST_F(SetupTest, FindingsComeInOneBoxAndTheFirstOneGetsTheCursor) {
     press(screen, "cmdAdd");
-    running.league.dialogs.expectWarning("Critical Error - Defaults Setup",
-                                         "The Certification Name is a required entry.\nThe Certifying Organization is a required entry.");
+    running.league.dialogs.expectWarning(
+        "Critical Error - Defaults Setup",
+        "The Certification Name is a required entry.\nThe Certifying Organization is a required entry.");
     press(screen, "cmdSave");
     EXPECT_TRUE(control(screen, "txtCertName")->hasFocus());
     press(screen, "cmdCancel");
@@ -72,16 +73,17 @@ TEST_F(SetupTest, EachTabAsksForWhatItNeeds) {
         const char* tab;
         const char* field;
         const char* findings;
-    } tabs[]{{"Volunteer Positions", "txtVolPosName",
-              "The Volunteer Position Title Name is a required entry.\nThe Certification Name is a required entry."},
-             {"Ability Ratings", "txtRatingText",
-              "The Rating Text field is a required entry.\nThe Rating Value field is a required entry."},
-             {"Vendors", "txtVendorName", "The Vendor Name is a required entry."},
-             {"Insurance", "txtInsAgencyName",
-              "The Insurance Agency Name is a required entry.\nThe Insurance Company Name is a required entry."},
-             {"How Fee Paid", "txtHowFeePaidText", "The How Fee Paid Text is a required entry."},
-             {"Schools", "txtSchoolName", "The School Name is a required entry."},
-             {"Difficulty Ratings", "txtDifficultyRatingText", "The Difficulty Rating Text field is a required entry."}};
+    } tabs[]{
+        {"Volunteer Positions", "txtVolPosName",
+         "The Volunteer Position Title Name is a required entry.\nThe Certification Name is a required entry."},
+        {"Ability Ratings", "txtRatingText",
+         "The Rating Text field is a required entry.\nThe Rating Value field is a required entry."},
+        {"Vendors", "txtVendorName", "The Vendor Name is a required entry."},
+        {"Insurance", "txtInsAgencyName",
+         "The Insurance Agency Name is a required entry.\nThe Insurance Company Name is a required entry."},
+        {"How Fee Paid", "txtHowFeePaidText", "The How Fee Paid Text is a required entry."},
+        {"Schools", "txtSchoolName", "The School Name is a required entry."},
+        {"Difficulty Ratings", "txtDifficultyRatingText", "The Difficulty Rating Text field is a required entry."}};
     for (const auto& tab : tabs) {
         SCOPED_TRACE(tab.tab);
         showTab(tab.tab);
@@ -96,7 +98,8 @@ TEST_F(SetupTest, EachTabAsksForWhatItNeeds) {
 TEST_F(SetupTest, DeletedPositionTakesItsLinksAlong) {
     const QString key = running.league.value("SELECT * FROM tblVolunteerPositions ORDER BY [VolPosName]", "VolPosId");
     for (const QString& position : {key, QStringLiteral("99")})
-        running.league.database().execute("INSERT INTO tblVolToPosition ([VolId], [VolPosId]) VALUES (9, " + position + ")");
+        running.league.database().execute("INSERT INTO tblVolToPosition ([VolId], [VolPosId]) VALUES (9, " + position +
+                                          ")");
     showTab("Volunteer Positions");
     running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::Yes);
     press(screen, "cmdDelete");
@@ -128,7 +131,8 @@ TEST_F(SetupTest, DeletedCertificationTakesItsLinksAlongAndComesBackUnderItsKey)
     const QStringList entries = list("cboCertSearchList");
     const QString query = "SELECT * FROM tblCertifications WHERE [CertificationName] = " + datafile::quoted(entries[0]);
     const QString key = running.league.value(query, "CertificationId");
-    running.league.database().execute("INSERT INTO tblVolunteerCertifications ([VolId], [CertificationId]) VALUES (9, " + key + ")");
+    running.league.database().execute(
+        "INSERT INTO tblVolunteerCertifications ([VolId], [CertificationId]) VALUES (9, " + key + ")");
     const QString question = "This will permanently delete the current record.\n\nDo you want to continue?";
     running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::No, question);
     press(screen, "cmdDelete");
@@ -183,10 +187,13 @@ TEST_F(SetupTest, SaveThatFailsAtClosingCanBeGivenUpOrNot) {
     running.league.database().execute("DELETE FROM tblSchoolInfo WHERE [SchoolName] = \"Elm\"");
     const auto failing = [this](BoxAnswer answer) {
         running.league.dialogs.expectQuestion("Save Record?", BoxAnswer::Yes);
-        running.league.dialogs.expectError("Save Record?", "The following error occurred while attempting to save:\n"
-                                                           "The record was removed in the meantime.");
-        running.league.dialogs.expectQuestion("Save Record?", answer, "If you continue the current operation, \nchanges to your data will be lost.\n"
-                                                                      "Do you want to continue anyway?");
+        running.league.dialogs.expectError("Save Record?",
+                                           "The following error occurred while attempting to save:\n"
+                                           "The record was removed in the meantime.");
+        running.league.dialogs.expectQuestion(
+            "Save Record?", answer,
+            "If you continue the current operation, \nchanges to your data will be lost.\n"
+            "Do you want to continue anyway?");
     };
     failing(BoxAnswer::No);
     EXPECT_FALSE(screen->close());
@@ -244,7 +251,11 @@ TEST_F(SetupTest, EachGarmentHasItsOwnSizesAndWaitsWhileAnotherIsEdited) {
     const struct {
         const char* tag;
         const char* called;
-    } garments[]{{"PantSize", "Pants"}, {"ShirtSize", "Shirt"}, {"HatSize", "Hat"}, {"SocksSize", "Socks"}, {"ShoeSize", "Shoe"}};
+    } garments[]{{"PantSize", "Pants"},
+                 {"ShirtSize", "Shirt"},
+                 {"HatSize", "Hat"},
+                 {"SocksSize", "Socks"},
+                 {"ShoeSize", "Shoe"}};
     for (const auto& each : garments) {
         SCOPED_TRACE(each.tag);
         const QString tag = each.tag;
@@ -253,7 +264,8 @@ TEST_F(SetupTest, EachGarmentHasItsOwnSizesAndWaitsWhileAnotherIsEdited) {
         press(screen, named("cmdAdd%1"));
         running.league.dialogs.expectWarning("Critical Error - Defaults Setup",
                                              QString("The %1 Size Description is a required entry.\n"
-                                                     "The %1 Size Designator is a required entry.").arg(each.called));
+                                                     "The %1 Size Designator is a required entry.")
+                                                 .arg(each.called));
         press(screen, "cmdSave");
         for (const auto& other : garments)
             EXPECT_EQ(control(screen, QString("txt%1Text").arg(other.tag).toLatin1())->isEnabled(), tag == other.tag);
@@ -266,7 +278,8 @@ TEST_F(SetupTest, EachGarmentHasItsOwnSizesAndWaitsWhileAnotherIsEdited) {
         for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
             running.league.dialogs.expectQuestion("Delete Confirmation", answer);
             press(screen, named("cmdDelete%1"));
-            EXPECT_EQ(status(screen), QString("Record \"AS - Aaa Small\" %1Deleted.").arg(answer == BoxAnswer::No ? "NOT " : ""));
+            EXPECT_EQ(status(screen),
+                      QString("Record \"AS - Aaa Small\" %1Deleted.").arg(answer == BoxAnswer::No ? "NOT " : ""));
         }
         EXPECT_EQ(list(named("cbo%1SearchList")), before);
     }
