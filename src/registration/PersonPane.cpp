@@ -26,11 +26,6 @@ datafile::Database PersonPane::database() const {
     return program().store.workspace.openDatabase(program().store.dataFilePath);
 }
 
-QStringList PersonPane::lookup(const QString& query, const QString& column) const {
-    const auto entries = database().readList(query, column);
-    return QStringList(entries.begin(), entries.end());
-}
-
 PersonPane::Settled PersonPane::settleIdentity() {
     const bool sameAsLoaded = entry().compare(loaded_, Qt::CaseInsensitive) == 0;
     if (record().isNew()) return settleNew(sameAsLoaded);

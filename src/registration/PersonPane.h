@@ -52,7 +52,6 @@ protected:
     /// The tab with the fields that the league names itself.
     void addCustomTab(FormBuilder& builder, const std::vector<Text*>& fields);
     void showCustomLabels();
-    QStringList lookup(const QString& query, const QString& column) const;
     datafile::Database database() const;
 
     void shown() override;

@@ -3,6 +3,7 @@
 #include "platform/widgets/FormBuilder.h"
 #include "registration/PlayerPane.h"
 #include "shell/Bound.h"
+#include "shell/Choices.h"
 #include "shell/Program.h"
 
 Form* PlayerPane::buildForm() {
@@ -46,7 +47,7 @@ void PlayerPane::addPersonalFrame(FormBuilder& builder) {
         .span(2).text("txtPlayerAddress1", tr("Street Address 1 *"), player.PlayerAddress1, FilterTextWide)
         .text("txtPlayerAddress2", tr("Apt. Number"), player.PlayerAddress2, FilterTextWide)
         .text("txtPlayerCity", tr("City  *"), player.PlayerCity, FilterTextFull)
-        .choice("cboPlayerStateId", tr("St./Prov.*"), player.PlayerStateId, lookup("SELECT [StateId] from tblState ORDER BY [StateId]", "StateId"),
+        .choice("cboPlayerStateId", tr("St./Prov.*"), player.PlayerStateId, stateIds(program()),
                 ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
         .text("txtPlayerPostalCode", tr("&Zip/Postal *"), player.PlayerPostalCode, FilterTextFull)
         .choice("cboPlayerCountryCode", tr("Country"), player.PlayerCountryCode, {"Canada", "USA"}, ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)

@@ -2,6 +2,7 @@
 #include "platform/widgets/FormBuilder.h"
 #include "registration/PlayerPane.h"
 #include "shell/Bound.h"
+#include "shell/Choices.h"
 
 // The player form behind its first tab.
 
@@ -51,7 +52,7 @@ struct ParentFields {
 }  // namespace
 
 QStringList PlayerPane::liveNames(const char* table, const char* column) {
-    return lookup(QStringLiteral("SELECT [%2] FROM %1 WHERE [DeletedFlag] = False ORDER BY [%2]").arg(QLatin1String(table), QLatin1String(column)),
+    return listOf(program(), QStringLiteral("SELECT [%2] FROM %1 WHERE [DeletedFlag] = False ORDER BY [%2]").arg(QLatin1String(table), QLatin1String(column)),
                   QLatin1String(column));
 }
 

@@ -5,6 +5,7 @@
 #include "registration/VolunteerLinks.h"
 #include "registration/clsRegistration.h"
 #include "shell/Bound.h"
+#include "shell/Choices.h"
 #include "shell/Program.h"
 
 VolunteerPane::VolunteerPane(Program& program)
@@ -74,8 +75,7 @@ void VolunteerPane::addPersonalTab(FormBuilder& builder) {
         .text("txtVolAddress1", tr("Street Address"), v.VolAddress1, FilterTextWide)
         .text("txtVolAddress2", tr("Apt No."), v.VolAddress2, FilterTextWide)
         .text("txtVolCity", tr("Cit&y"), v.VolCity, FilterTextFull)
-        .choice("cboVolStateId", tr("State"), v.VolStateId,
-                lookup("SELECT [StateId] from tblState ORDER BY [StateId]", "StateId"),
+        .choice("cboVolStateId", tr("State"), v.VolStateId, stateIds(program()),
                 ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
         .text("txtVolPostalCode", tr("&Zip/Postal"), v.VolPostalCode, FilterTextFull)
         .choice("cboVolCountryCode", tr("Country"), v.VolCountryCode, {"Canada", "USA"},

@@ -8,13 +8,13 @@
 #include "platform/widgets/FormBuilder.h"
 #include "platform/widgets/FormLayout.h"
 #include "shell/Bound.h"
+#include "shell/Choices.h"
 #include "shell/Program.h"
 
 frmVolInfo::frmVolInfo(Program& program, clsVolunteer& volunteer) : program_(program), volunteer_(volunteer), form_(new Form(this)) {
     setObjectName(QStringLiteral("frmVolInfo"));
     setWindowTitle(tr("New Volunteer Information"));
     clsVolunteer& v = volunteer_;
-    const auto states = program.store.workspace.openDatabase(program.store.dataFilePath).readList("SELECT [StateId] from tblState ORDER BY [StateId]", "StateId");
     FormBuilder builder(form_);
     builder.frame(tr("Volunteer Personal Information"))
         .shown("lblVolLastName", tr("Last Name"), [&v] { return v.VolLastName(); })
@@ -22,7 +22,7 @@ frmVolInfo::frmVolInfo(Program& program, clsVolunteer& volunteer) : program_(pro
         .text("txtVolAddress1", tr("Street &Address"), v.VolAddress1, FilterTextWide)
         .text("txtVolAddress2", tr("Apt No."), v.VolAddress2, FilterTextWide)
         .text("txtVolCity", tr("Cit&y"), v.VolCity, FilterTextFull)
-        .choice("cboVolStateId", tr("S&tate"), v.VolStateId, QStringList(states.begin(), states.end()), ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
+        .choice("cboVolStateId", tr("S&tate"), v.VolStateId, stateIds(program), ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
         .text("txtVolPostalCode", tr("&Zip/Postal Code"), v.VolPostalCode, FilterTextFull)
         .choice("cboVolCountryCode", tr("Co&untry"), v.VolCountryCode, {"Canada", "USA"}, ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
         .phone("mskedVolHomePhoneArea", "mskedVolHomePhone", tr("&Home Phone *"), v.VolHomePhoneArea, v.VolHomePhone)
