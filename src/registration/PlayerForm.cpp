@@ -24,6 +24,7 @@ Form* PlayerPane::buildForm() {
     const QStringList amounts{"mskedPlayerFeeAmount", "mskedPlayerFundRaiserFee", "mskedPlayerOtherFees", "mskedPlayerAmountPaid",
                               "cboPlayerDivision"};  // which gives the fee
     connect(form, &Form::left, this, [this, amounts](const QString& field) {
+        if (field == u"cboPlayerDivision") feeOnTheWay_.clear();
         if (amounts.contains(field)) showBalance();
     });
     return form;

@@ -56,6 +56,24 @@ QStringList PlayerPane::liveNames(const char* table, const char* column) {
                   QLatin1String(column));
 }
 
+/// The lists that other screens keep.
+void PlayerPane::readChoices() {
+    const struct {
+        const char* box;
+        const char* table;
+        const char* column;
+    } lists[] = {{"cboPlayerDivision", "tblDivision", "DivName"},
+                 {"cboPlayerHowFeePaid", "tblHowFeePaid", "HowFeePaidText"},
+                 {"cboPlayerSchoolName", "tblSchoolInfo", "SchoolName"},
+                 {"cboPlayerShirtSize", "tblShirtSize", "ShirtSizeText"},
+                 {"cboPlayerPantSize", "tblPantSize", "PantSizeText"},
+                 {"cboPlayerHatSize", "tblHatSize", "HatSizeText"},
+                 {"cboPlayerShoeSize", "tblShoeSize", "ShoeSizeText"},
+                 {"cboPlayerInsuranceCarrier", "tblInsurance", "InsCompanyName"}};
+    for (const auto& list : lists)
+        form().findChild<ChoiceBox*>(QLatin1String(list.box))->setEntries(liveNames(list.table, list.column));
+}
+
 void PlayerPane::addParentsTab(FormBuilder& builder) {
     clsRegistration& p = player_;
     const ParentFields parents[] = {

@@ -61,6 +61,7 @@ void PlayerPane::shown() {
     bool found = false;
     PersonPane::shown();
     divisionName_.clear();
+    feeOnTheWay_.clear();
     if (player_.PlayerDivisionId != 0) division_.FindDivisionRecordById(player_.PlayerDivisionId, false, true, found);
     if (found) divisionName_ = division_.DivName;
     teamName_ = player_.PlayerTeamId == 0 ? QString()
@@ -92,7 +93,8 @@ void PlayerPane::chooseDivision(const QString& name) {
     player_.PlayerDivisionId = found ? division_.DivId() : 0;
     player_.PlayerTeamId = 0;
     teamName_.clear();
-    if (found && player_.PlayerFeeAmount().isEmpty()) player_.PlayerFeeAmount = division_.DivRegistrationFee;
+    if (found && (player_.PlayerFeeAmount().isEmpty() || player_.PlayerFeeAmount() == feeOnTheWay_))
+        player_.PlayerFeeAmount = feeOnTheWay_ = division_.DivRegistrationFee;
     showAge();
 }
 

@@ -34,6 +34,7 @@ private:
     /// The live entries of a lookup table, in order.
     QStringList liveNames(const char* table, const char* column);
 
+    void readChoices() override;
     bool find(const QString& entry) override;
     QString name() const override { return key().text(); }
     QString unsavedName() const override { return player_.PlayerLastName(); }
@@ -81,5 +82,6 @@ private:
     bool dadVolunteers_ = false;  ///< the choices on screen, which the row's own do not decide
     bool momVolunteers_ = false;
     QString divisionName_;
+    QString feeOnTheWay_;  ///< taken from a division while typing passes over it; the next one replaces it
     QString teamName_;
 };
