@@ -52,10 +52,11 @@ void measure(Comparison& comparison, League& league, int players) {
             status->clear();
         },
         [raw, number = 0]() mutable {
-            RawStatement write(*raw, QStringLiteral("UPDATE tblRegistration SET PlayerAddress2 = 'Apt %1' WHERE PlayerId = 1")
-                                         .arg(++number % 100)
-                                         .toUtf8()
-                                         .constData());
+            RawStatement write(*raw,
+                               QStringLiteral("UPDATE tblRegistration SET PlayerAddress2 = 'Apt %1' WHERE PlayerId = 1")
+                                   .arg(++number % 100)
+                                   .toUtf8()
+                                   .constData());
             write.step();
         });
     comparison.add(

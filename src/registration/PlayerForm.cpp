@@ -21,8 +21,8 @@ Form* PlayerPane::buildForm() {
                            &p.PlayerCustomField5, &p.PlayerCustomField6});
     addOutsideFrame(builder);
     form->setDateFormat(program().globals().defaultDateFormat);
-    const QStringList amounts{"mskedPlayerFeeAmount", "mskedPlayerFundRaiserFee", "mskedPlayerOtherFees", "mskedPlayerAmountPaid",
-                              "cboPlayerDivision"};  // which gives the fee
+    const QStringList amounts{"mskedPlayerFeeAmount", "mskedPlayerFundRaiserFee", "mskedPlayerOtherFees",
+                              "mskedPlayerAmountPaid", "cboPlayerDivision"};  // which gives the fee
     connect(form, &Form::left, this, [this, amounts](const QString& field) {
         if (field == u"cboPlayerDivision") feeOnTheWay_.clear();
         if (amounts.contains(field)) showBalance();
@@ -42,30 +42,39 @@ void PlayerPane::addPersonalFrame(FormBuilder& builder) {
                        own.size());
     };
     builder.frame(tr("Player Personal Information"), 3)
-        .text("txtPlayerLastName", tr("Last N&ame *"), shared(player.PlayerLastName, player.PlayerDadLastName, player.PlayerMomLastName), FilterTextFull)
+        .text("txtPlayerLastName", tr("Last N&ame *"),
+              shared(player.PlayerLastName, player.PlayerDadLastName, player.PlayerMomLastName), FilterTextFull)
         .text("txtPlayerFirstName", tr("First Name *"), player.PlayerFirstName, FilterTextFull)
         .text("txtPlayerMiddleInitial", tr("Initial"), player.PlayerMiddleInitial, FilterTextFull)
-        .span(2).text("txtPlayerAddress1", tr("Street Address 1 *"), player.PlayerAddress1, FilterTextWide)
+        .span(2)
+        .text("txtPlayerAddress1", tr("Street Address 1 *"), player.PlayerAddress1, FilterTextWide)
         .text("txtPlayerAddress2", tr("Apt. Number"), player.PlayerAddress2, FilterTextWide)
         .text("txtPlayerCity", tr("City  *"), player.PlayerCity, FilterTextFull)
         .choice("cboPlayerStateId", tr("St./Prov.*"), player.PlayerStateId, stateIds(program()),
                 ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
         .text("txtPlayerPostalCode", tr("&Zip/Postal *"), player.PlayerPostalCode, FilterTextFull)
-        .choice("cboPlayerCountryCode", tr("Country"), player.PlayerCountryCode, {"Canada", "USA"}, ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
-        .span(2).phone("mskedPlayerPhoneArea", "mskedPlayerPhone", tr("Home Phone *"),
+        .choice("cboPlayerCountryCode", tr("Country"), player.PlayerCountryCode, {"Canada", "USA"},
+                ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
+        .span(2)
+        .phone("mskedPlayerPhoneArea", "mskedPlayerPhone", tr("Home Phone *"),
                shared(player.PlayerPhoneArea, player.PlayerDadPhoneArea, player.PlayerMomPhoneArea),
                shared(player.PlayerPhone, player.PlayerDadPhone, player.PlayerMomPhone))
-        .span(3).text("txtPlayerEmailAddress", tr("Email Address"), player.PlayerEmailAddress, FilterTextFull)
-        .date("dtpPlayerBirthDate", tr("&Birth Date *"), {[&player] { return player.PlayerBirthDate(); }, [this](const QDate& date) {
-                                                              player_.PlayerBirthDate = date;
-                                                              showAge();
-                                                          }})
-        .shown("lblPlayerAge", tr("Age"), [&player] { return player.PlayerAge(); }, 4)
+        .span(3)
+        .text("txtPlayerEmailAddress", tr("Email Address"), player.PlayerEmailAddress, FilterTextFull)
+        .date("dtpPlayerBirthDate", tr("&Birth Date *"),
+              {[&player] { return player.PlayerBirthDate(); },
+               [this](const QDate& date) {
+                   player_.PlayerBirthDate = date;
+                   showAge();
+               }})
+        .shown(
+            "lblPlayerAge", tr("Age"), [&player] { return player.PlayerAge(); }, 4)
         .choice("cboPlayerGender", tr("&Gender"), player.PlayerGender, {"Male", "Female"})
         .text("txtPlayerHeight", tr("Height"), player.PlayerHeight, FilterNumeric)
         .text("txtPlayerWeight", tr("Weight"), player.PlayerWeight, FilterNumeric)
         .text("txtPlayerYearsExperience", tr("Exp."), player.PlayerYearsExperience, FilterNumeric)
-        .span(3).together(tr("Hand Used?"))
+        .span(3)
+        .together(tr("Hand Used?"))
         .check("chkPlayerHandRight", tr("Right"), player.PlayerHandRight)
         .check("chkPlayerHandLeft", tr("Left"), player.PlayerHandLeft);
 }
@@ -75,11 +84,14 @@ void PlayerPane::addLeagueFrame(FormBuilder& builder) {
     builder.frame(tr("League Use"))
         .date("dtpPlayerRegistrationDate", tr("Reg Date"), player.PlayerRegistrationDate)
         .text("txtPlayerTryoutNumber", tr("Tryout Number"), player.PlayerTryoutNumber, FilterNumeric)
-        .span(2).choice("cboPlayerDivision", tr("Division"),
+        .span(2)
+        .choice("cboPlayerDivision", tr("Division"),
                 Binding([this] { return divisionName_; }, [this](const QString& name) { chooseDivision(name); }, 30),
                 liveNames("tblDivision", "DivName"))
-        .span(2).shown("lblPlayerTeamName", tr("Team Name"), [this] { return teamName_; })
-        .span(2).text("txtPlayerRegistrationNumber", tr("Registration Nbr"), player.PlayerRegistrationNumber, FilterTextFull)
+        .span(2)
+        .shown("lblPlayerTeamName", tr("Team Name"), [this] { return teamName_; })
+        .span(2)
+        .text("txtPlayerRegistrationNumber", tr("Registration Nbr"), player.PlayerRegistrationNumber, FilterTextFull)
         .check("chkPlayerActive", tr("Active?"), player.PlayerActive)
         .check("chkPlayerIsUmpire", tr("Umpire?"), player.PlayerIsUmpire)
         .check("chkPlayerIdCheck", tr("Residency Checked?"), player.PlayerIdCheck)
@@ -96,5 +108,6 @@ void PlayerPane::addFeeFrame(FormBuilder& builder) {
         .money("mskedPlayerAmountPaid", tr("A&mt. Paid"), player.PlayerAmountPaid)
         .choice("cboPlayerHowFeePaid", tr("How Fee Paid?"), player.PlayerHowFeePaid,
                 liveNames("tblHowFeePaid", "HowFeePaidText"))
-        .shown("lblPlayerBalance", tr("Balance Due"), [] { return Money().text(); }, 10);
+        .shown(
+            "lblPlayerBalance", tr("Balance Due"), [] { return Money().text(); }, 10);
 }

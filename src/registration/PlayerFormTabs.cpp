@@ -52,7 +52,9 @@ struct ParentFields {
 }  // namespace
 
 QStringList PlayerPane::liveNames(const char* table, const char* column) {
-    return listOf(program(), QStringLiteral("SELECT [%2] FROM %1 WHERE [DeletedFlag] = False ORDER BY [%2]").arg(QLatin1String(table), QLatin1String(column)),
+    return listOf(program(),
+                  QStringLiteral("SELECT [%2] FROM %1 WHERE [DeletedFlag] = False ORDER BY [%2]")
+                      .arg(QLatin1String(table), QLatin1String(column)),
                   QLatin1String(column));
 }
 
@@ -77,24 +79,30 @@ void PlayerPane::readChoices() {
 void PlayerPane::addParentsTab(FormBuilder& builder) {
     clsRegistration& p = player_;
     const ParentFields parents[] = {
-        {"Dad", "cboPlayerGuardian1Relationship", p.PlayerGuardian1Relationship, p.PlayerDadLastName, p.PlayerDadFirstName, p.PlayerDadPhoneArea,
-         p.PlayerDadPhone, p.PlayerDadWorkPhoneArea, p.PlayerDadWorkPhone, p.PlayerDadMobilePhoneArea, p.PlayerDadMobilePhone, p.PlayerDadEmail,
-         p.PlayerDadVolunteer, dadVolunteers_},
-        {"Mom", "cboPlayerGuardian2Relationship", p.PlayerGuardian2Relationship, p.PlayerMomLastName, p.PlayerMomFirstName, p.PlayerMomPhoneArea,
-         p.PlayerMomPhone, p.PlayerMomWorkPhoneArea, p.PlayerMomWorkPhone, p.PlayerMomMobilePhoneArea, p.PlayerMomMobilePhone, p.PlayerMomEmail,
-         p.PlayerMomVolunteer, momVolunteers_}};
+        {"Dad", "cboPlayerGuardian1Relationship", p.PlayerGuardian1Relationship, p.PlayerDadLastName,
+         p.PlayerDadFirstName, p.PlayerDadPhoneArea, p.PlayerDadPhone, p.PlayerDadWorkPhoneArea, p.PlayerDadWorkPhone,
+         p.PlayerDadMobilePhoneArea, p.PlayerDadMobilePhone, p.PlayerDadEmail, p.PlayerDadVolunteer, dadVolunteers_},
+        {"Mom", "cboPlayerGuardian2Relationship", p.PlayerGuardian2Relationship, p.PlayerMomLastName,
+         p.PlayerMomFirstName, p.PlayerMomPhoneArea, p.PlayerMomPhone, p.PlayerMomWorkPhoneArea, p.PlayerMomWorkPhone,
+         p.PlayerMomMobilePhoneArea, p.PlayerMomMobilePhone, p.PlayerMomEmail, p.PlayerMomVolunteer, momVolunteers_}};
     builder.tab(tr("Parent Info."));
     int number = 0;
     for (const ParentFields& parent : parents) {
-        const auto named = [&parent](const char* pattern) { return QString::fromLatin1(pattern).arg(QLatin1String(parent.who)); };
+        const auto named = [&parent](const char* pattern) {
+            return QString::fromLatin1(pattern).arg(QLatin1String(parent.who));
+        };
         builder.column()
             .frame(tr("Parent %1").arg(++number), 1)
-            .choice(parent.relationshipBox, tr("Relationship"), parent.relationship, {"Mother", "Father", "Legal Guardian"})
+            .choice(parent.relationshipBox, tr("Relationship"), parent.relationship,
+                    {"Mother", "Father", "Legal Guardian"})
             .text(named("txtPlayer%1LastName"), tr("Last Name"), parent.lastName, FilterTextFull)
             .text(named("txtPlayer%1FirstName"), tr("First Name"), parent.firstName, FilterTextFull)
-            .phone(named("mskedPlayer%1PhoneArea"), named("mskedPlayer%1Phone"), tr("Home Phone"), parent.phoneArea, parent.phone)
-            .phone(named("mskedPlayer%1WorkPhoneArea"), named("mskedPlayer%1WorkPhone"), tr("Work Phone"), parent.workArea, parent.work)
-            .phone(named("mskedPlayer%1MobilePhoneArea"), named("mskedPlayer%1MobilePhone"), tr("Mobile Phone"), parent.mobileArea, parent.mobile)
+            .phone(named("mskedPlayer%1PhoneArea"), named("mskedPlayer%1Phone"), tr("Home Phone"), parent.phoneArea,
+                   parent.phone)
+            .phone(named("mskedPlayer%1WorkPhoneArea"), named("mskedPlayer%1WorkPhone"), tr("Work Phone"),
+                   parent.workArea, parent.work)
+            .phone(named("mskedPlayer%1MobilePhoneArea"), named("mskedPlayer%1MobilePhone"), tr("Mobile Phone"),
+                   parent.mobileArea, parent.mobile)
             .text(named("txtPlayer%1Email"), tr("Email Address"), parent.email, FilterTextFull)
             .yesNo(named("optPlayer%1Volunteer"), tr("Volunteer?"), volunteers(parent.volunteers, parent.volunteer));
     }
@@ -108,7 +116,9 @@ void PlayerPane::addSchoolTab(FormBuilder& builder) {
         .choice("cboPlayerSchoolName", tr("School"), p.PlayerSchoolName, liveNames("tblSchoolInfo", "SchoolName"),
                 ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
         .choice("cboPlayerGradeLevel", tr("Grade:"),
-                Binding([&p] { return shownGrade(p.PlayerGradeLevel); }, [&p](const QString& grade) { p.PlayerGradeLevel = keptGrade(grade); }, 7), grades())
+                Binding([&p] { return shownGrade(p.PlayerGradeLevel); },
+                        [&p](const QString& grade) { p.PlayerGradeLevel = keptGrade(grade); }, 7),
+                grades())
         .frame({}, 1)
         .comments("txtPlayerComments", tr("Comments"), p.PlayerComments, FilterTextWide)
         .column()
@@ -127,17 +137,23 @@ void PlayerPane::addMedicalTab(FormBuilder& builder) {
         .column()
         .frame(tr("Doctor and Hospital"), 1)
         .text("txtPlayerDoctorName", tr("Doctor's Name"), p.PlayerDoctorName, FilterTextFull)
-        .phone("mskedPlayerDoctorPhoneArea", "mskedPlayerDoctorPhone", tr("Doctor's Phone"), p.PlayerDoctorPhoneArea, p.PlayerDoctorPhone)
+        .phone("mskedPlayerDoctorPhoneArea", "mskedPlayerDoctorPhone", tr("Doctor's Phone"), p.PlayerDoctorPhoneArea,
+               p.PlayerDoctorPhone)
         .text("txtPlayerDentistName", tr("Dentist's Name"), p.PlayerDentistName, FilterTextFull)
-        .phone("mskedPlayerDentistPhoneArea", "mskedPlayerDentistPhone", tr("Dentist's Phone"), p.PlayerDentistPhoneArea, p.PlayerDentistPhone)
+        .phone("mskedPlayerDentistPhoneArea", "mskedPlayerDentistPhone", tr("Dentist's Phone"),
+               p.PlayerDentistPhoneArea, p.PlayerDentistPhone)
         .text("txtPlayerHospitalName", tr("Hospital Preference"), p.PlayerHospitalName, FilterTextFull)
         .column()
         .frame(tr("Emergency and Insurance"), 1)
-        .text("txtPlayerEmergencyContactName", tr("Emergency Contact Name"), p.PlayerEmergencyContactName, FilterTextFull)
-        .text("txtPlayerEmergencyContactRelationship", tr("Emergency Contact Relationship"), p.PlayerEmergencyContactRelationship, FilterTextFull)
-        .phone("mskedPlayerEmergencyPhoneArea", "mskedPlayerEmergencyPhone", tr("Emergency Contact Phone"), p.PlayerEmergencyPhoneArea, p.PlayerEmergencyPhone)
-        .choice("cboPlayerInsuranceCarrier", tr("Insurance Carrier"), p.PlayerInsuranceCarrier, liveNames("tblInsurance", "InsCompanyName"),
-                ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
+        .text("txtPlayerEmergencyContactName", tr("Emergency Contact Name"), p.PlayerEmergencyContactName,
+              FilterTextFull)
+        .text("txtPlayerEmergencyContactRelationship", tr("Emergency Contact Relationship"),
+              p.PlayerEmergencyContactRelationship, FilterTextFull)
+        .phone("mskedPlayerEmergencyPhoneArea", "mskedPlayerEmergencyPhone", tr("Emergency Contact Phone"),
+               p.PlayerEmergencyPhoneArea, p.PlayerEmergencyPhone)
+        .choice("cboPlayerInsuranceCarrier", tr("Insurance Carrier"), p.PlayerInsuranceCarrier,
+                liveNames("tblInsurance", "InsCompanyName"), ChoiceBox::FreeText | ChoiceBox::EmptyFirst,
+                FilterTextFull)
         .text("txtPlayerInsPolicyNumber", tr("Insurance Policy Number"), p.PlayerInsPolicyNumber, FilterTextFull)
         .check("chkPlayerMedicalForm", tr("Emergency Medical Authorization form signed?"), p.PlayerMedicalForm)
         .below()
@@ -147,8 +163,7 @@ void PlayerPane::addMedicalTab(FormBuilder& builder) {
 
 void PlayerPane::addOutsideFrame(FormBuilder& builder) {
     clsRegistration& p = player_;
-    builder
-        .column(2)
+    builder.column(2)
         .frame(tr("With Respect to the Player..."), 1)
         .check("chkPlayerSendInvitation", tr("Send Invitation to the Team Web Site?"), p.PlayerSendInvitation)
         .check("chkPlayerParentApproval", tr("Parent Approval for the Team Web Site?"), p.PlayerParentApproval)

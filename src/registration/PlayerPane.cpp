@@ -14,40 +14,46 @@
 #include <QLineEdit>
 
 PlayerPane::PlayerPane(Program& program)
-    : PersonPane(program, {.tag = "Player",
-                           .caption = tr("Player Registrations"),
-                           .searchName = "cboPlayerSearchList",
-                           .searchCaption = tr("C&urrent Player"),
-                           .moveName = "cmdPlayerMove",
-                           .listQuery = "SELECT *, ([PlayerLastName] & \", \" & [PlayerFirstName] & \" - \" & [PlayerBirthDate]) as Name "
-                                        "FROM tblRegistration WHERE tblRegistration![DeletedFlag] = False "
-                                        "ORDER BY [PlayerLastName], [PlayerFirstName], [PlayerBirthDate]",
-                           .checkTitle = tr("Validation Error - Player Registration"),
-                           .missingText = tr("Error!  Player Name not found in Search List"),
-                           .leaveQuestion = tr("Save the current Player record?"),
-                           .menu = tr("Player Registration"),
-                           .noun = tr("Player")},
-                 {.table = "tblRegistration",
-                  .idColumn = "PlayerId",
-                  .activeColumn = "PlayerActive",
-                  .followers = {"tblAbilityRating", "tblEquipmentAssignment", "tblRegistrationVolunteer", "tblVolToPosition"},
-                  .prefix = "Player",
-                  .labelColumn = "RegCustomFieldLabel",
-                  .addQuestion = tr("A record for %1 %2 with the current\nbirth date was not found, and neither the Add New\n"
-                                    "nor Add Sibling buttons were pressed.\n\nWould you like to add a New Player record?\n"
-                                    "   Yes -> Add New Record\n   No  -> Update the current record\n"
-                                    "   Cancel -> No changes written to database."),
-                  .takenTitle = tr("Unable to Update Player Record"),
-                  .takenText = tr("Unable to change the name or birth date of Player %1 %2.\n"
-                                  "A record already exists for Player %1 %2 with the same Birth Date.\n\n"
-                                  "Please enter a different First Name, Last Name, or Birth Date."),
-                  .duplicateQuestion = tr("A record already exists for the Player %1 %2\nwith the same Birth Date as the record "
-                                          "that is being added or updated.\n\n"
-                                          "Would you like to overwrite the current record in the database?"),
-                  .overwriteQuestion = tr("A record for player %1 %2 already exists.\n\nDo you want to overwrite the current record?"),
-                  .renameError = tr("An error occurred in trying to Rename a player.\nPlease report this error to Kestrelmoor support."),
-                  .equipmentError = tr("The Player being deleted has Equipment assigned to them.\n"
-                                       "Delete any equipment assignments\nbefore deleting this record.")}),
+    : PersonPane(
+          program,
+          {.tag = "Player",
+           .caption = tr("Player Registrations"),
+           .searchName = "cboPlayerSearchList",
+           .searchCaption = tr("C&urrent Player"),
+           .moveName = "cmdPlayerMove",
+           .listQuery =
+               "SELECT *, ([PlayerLastName] & \", \" & [PlayerFirstName] & \" - \" & [PlayerBirthDate]) as Name "
+               "FROM tblRegistration WHERE tblRegistration![DeletedFlag] = False "
+               "ORDER BY [PlayerLastName], [PlayerFirstName], [PlayerBirthDate]",
+           .checkTitle = tr("Validation Error - Player Registration"),
+           .missingText = tr("Error!  Player Name not found in Search List"),
+           .leaveQuestion = tr("Save the current Player record?"),
+           .menu = tr("Player Registration"),
+           .noun = tr("Player")},
+          {.table = "tblRegistration",
+           .idColumn = "PlayerId",
+           .activeColumn = "PlayerActive",
+           .followers = {"tblAbilityRating", "tblEquipmentAssignment", "tblRegistrationVolunteer", "tblVolToPosition"},
+           .prefix = "Player",
+           .labelColumn = "RegCustomFieldLabel",
+           .addQuestion = tr("A record for %1 %2 with the current\nbirth date was not found, and neither the Add New\n"
+                             "nor Add Sibling buttons were pressed.\n\nWould you like to add a New Player record?\n"
+                             "   Yes -> Add New Record\n   No  -> Update the current record\n"
+                             "   Cancel -> No changes written to database."),
+           .takenTitle = tr("Unable to Update Player Record"),
+           .takenText = tr("Unable to change the name or birth date of Player %1 %2.\n"
+                           "A record already exists for Player %1 %2 with the same Birth Date.\n\n"
+                           "Please enter a different First Name, Last Name, or Birth Date."),
+           .duplicateQuestion =
+               tr("A record already exists for the Player %1 %2\nwith the same Birth Date as the record "
+                  "that is being added or updated.\n\n"
+                  "Would you like to overwrite the current record in the database?"),
+           .overwriteQuestion =
+               tr("A record for player %1 %2 already exists.\n\nDo you want to overwrite the current record?"),
+           .renameError =
+               tr("An error occurred in trying to Rename a player.\nPlease report this error to Kestrelmoor support."),
+           .equipmentError = tr("The Player being deleted has Equipment assigned to them.\n"
+                                "Delete any equipment assignments\nbefore deleting this record.")}),
       player_(program.store),
       division_(program.store),
       volunteer_(program.store) {
@@ -55,7 +61,9 @@ PlayerPane::PlayerPane(Program& program)
     showCustomLabels();
 }
 
-bool PlayerPane::find(const QString& entry) { return player_.FindPlayerRecord(entry, false, true) && !player_.PlayerDeletedFlag; }
+bool PlayerPane::find(const QString& entry) {
+    return player_.FindPlayerRecord(entry, false, true) && !player_.PlayerDeletedFlag;
+}
 
 void PlayerPane::shown() {
     bool found = false;
@@ -64,9 +72,10 @@ void PlayerPane::shown() {
     feeOnTheWay_.clear();
     if (player_.PlayerDivisionId != 0) division_.FindDivisionRecordById(player_.PlayerDivisionId, false, true, found);
     if (found) divisionName_ = division_.DivName;
-    teamName_ = player_.PlayerTeamId == 0 ? QString()
-                                          : ReadFieldValue(program().store, program().store.dataFilePath, QStringLiteral("TeamName"),
-                                                           QStringLiteral("tblTeam"), live(matches("TeamId", player_.PlayerTeamId)));
+    teamName_ = player_.PlayerTeamId == 0
+                    ? QString()
+                    : ReadFieldValue(program().store, program().store.dataFilePath, QStringLiteral("TeamName"),
+                                     QStringLiteral("tblTeam"), live(matches("TeamId", player_.PlayerTeamId)));
     showAge();
     showVolunteers();
     form().refresh();
@@ -80,7 +89,8 @@ void PlayerPane::showAge() {
     if (!divisionName_.isEmpty()) own = {division_.DivAgeCutOffMonth, division_.DivAgeCutOffDay};
     const Globals& globals = program().globals();
     const CutOff cutOff = cutOffByField(own, {globals.defaultAgeCutoffMonth, globals.defaultAgeCutoffDay});
-    const int age = CalculateAge(shortDate(player_.PlayerBirthDate), cutOff.month, cutOff.day, globals.currentSeasonYear);
+    const int age =
+        CalculateAge(shortDate(player_.PlayerBirthDate), cutOff.month, cutOff.day, globals.currentSeasonYear);
     const bool dirty = player_.IsPlayerDirty();
     player_.PlayerAge = QString::number(age);
     player_.SetIsPlayerDirty(dirty);
@@ -103,7 +113,8 @@ void PlayerPane::showBalance() {
     const auto amount = [this](const char* box) {
         return Money::orZero(form().findChild<QLineEdit*>(QLatin1String(box))->text());
     };
-    const Money owed = amount("mskedPlayerFeeAmount") + amount("mskedPlayerFundRaiserFee") + amount("mskedPlayerOtherFees");
+    const Money owed =
+        amount("mskedPlayerFeeAmount") + amount("mskedPlayerFundRaiserFee") + amount("mskedPlayerOtherFees");
     const Money paid = amount("mskedPlayerAmountPaid");
     showBalance(owed >= paid ? owed - paid : paid - owed, owed >= paid);
 }
@@ -136,8 +147,9 @@ void PlayerPane::setDefaults() {
     player_.PlayerCity = globals.defaultCity;
     player_.PlayerStateId = globals.defaultStateId;
     player_.PlayerPostalCode = globals.defaultPostalCode;
-    for (Text* area : {&player_.PlayerPhoneArea, &player_.PlayerDadPhoneArea, &player_.PlayerDadWorkPhoneArea, &player_.PlayerDadMobilePhoneArea,
-                       &player_.PlayerMomPhoneArea, &player_.PlayerMomWorkPhoneArea, &player_.PlayerMomMobilePhoneArea})
+    for (Text* area : {&player_.PlayerPhoneArea, &player_.PlayerDadPhoneArea, &player_.PlayerDadWorkPhoneArea,
+                       &player_.PlayerDadMobilePhoneArea, &player_.PlayerMomPhoneArea, &player_.PlayerMomWorkPhoneArea,
+                       &player_.PlayerMomMobilePhoneArea})
         *area = globals.defaultAreaCode;
     player_.PlayerFeeAmount = QString();
     player_.PlayerFundRaiserFee = usualFundRaiserFee();
@@ -165,7 +177,8 @@ std::vector<Finding> PlayerPane::check() const {
     for (const auto& rule : rules) {
         if (isBlank(rule.value)) findings.push_back({rule.field, rule.text});
         if (&rule.value == &player_.PlayerFirstName && !player_.PlayerBirthDate().isValid())
-            findings.push_back({QStringLiteral("dtpPlayerBirthDate"), tr("The Players Birth Date is a required entry.")});
+            findings.push_back(
+                {QStringLiteral("dtpPlayerBirthDate"), tr("The Players Birth Date is a required entry.")});
     }
     const struct {
         const Text& lastName;
@@ -173,13 +186,14 @@ std::vector<Finding> PlayerPane::check() const {
         const Text& phone;
         const char* field;
         QString text;
-    } guardians[] = {{player_.PlayerMomLastName, player_.PlayerMomFirstName, player_.PlayerMomPhone, "mskedPlayerMomPhone",
-                      tr("    - Guardian 2 does not have a phone number.")},
-                     {player_.PlayerDadLastName, player_.PlayerDadFirstName, player_.PlayerDadPhone, "mskedPlayerDadPhone",
-                      tr("    - Guardian 1 does not have a phone number.")}};
+    } guardians[] = {{player_.PlayerMomLastName, player_.PlayerMomFirstName, player_.PlayerMomPhone,
+                      "mskedPlayerMomPhone", tr("    - Guardian 2 does not have a phone number.")},
+                     {player_.PlayerDadLastName, player_.PlayerDadFirstName, player_.PlayerDadPhone,
+                      "mskedPlayerDadPhone", tr("    - Guardian 1 does not have a phone number.")}};
     for (const auto& guardian : guardians)
         if (guardian.lastName.isFilled() && guardian.firstName.isFilled() && isBlank(guardian.phone))
-            findings.push_back({guardian.field, tr("Don't forget to enter a phone number for the guardian.") + u'\n' + guardian.text});
+            findings.push_back(
+                {guardian.field, tr("Don't forget to enter a phone number for the guardian.") + u'\n' + guardian.text});
     return findings;
 }
 
@@ -197,9 +211,11 @@ void PlayerPane::settleSchool() {
     const QString name = player_.PlayerSchoolName;
     clsSchoolName school(program().store);
     if (name.isEmpty() || school.FindSchoolRecord(name, false, false)) return;
-    const bool add = program().dialogs().ask(tr("Add New School Name?"), tr("The School Name entered was not\nfound in the School database file.\n\n"
-                                                                            "Would you like to add this School Name to \nthe database file?  \n"
-                                                                            "Note:  If you answer No, the School Name\nwill not be saved with the Player record."));
+    const bool add = program().dialogs().ask(
+        tr("Add New School Name?"),
+        tr("The School Name entered was not\nfound in the School database file.\n\n"
+           "Would you like to add this School Name to \nthe database file?  \n"
+           "Note:  If you answer No, the School Name\nwill not be saved with the Player record."));
     if (!add) {
         player_.PlayerSchoolName = QString();
         return;
@@ -207,7 +223,9 @@ void PlayerPane::settleSchool() {
     school.NewSchoolRecord();
     school.SchoolName = name;
     school.SaveSchoolRecord();
-    form().findChild<ChoiceBox*>(QStringLiteral("cboPlayerSchoolName"))->setEntries(liveNames("tblSchoolInfo", "SchoolName"));
+    form()
+        .findChild<ChoiceBox*>(QStringLiteral("cboPlayerSchoolName"))
+        ->setEntries(liveNames("tblSchoolInfo", "SchoolName"));
 }
 
 QString PlayerPane::deleteQuestion() const { return tr("Are you sure you want to delete player %1?").arg(name()); }

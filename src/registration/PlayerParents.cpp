@@ -24,12 +24,13 @@ struct PlayerPane::Parent {
 
 std::array<PlayerPane::Parent, 2> PlayerPane::parents() const {
     const clsRegistration& p = player_;
-    return {Parent{QStringLiteral("Dad"), dadVolunteers_, p.PlayerDadLastName, p.PlayerDadFirstName, p.PlayerDadPhoneArea, p.PlayerDadPhone,
-                   p.PlayerDadWorkPhoneArea, p.PlayerDadWorkPhone, p.PlayerDadMobilePhoneArea, p.PlayerDadMobilePhone, p.PlayerDadEmail,
-                   p.PlayerGuardian1Relationship},
-            Parent{QStringLiteral("Mom"), momVolunteers_, p.PlayerMomLastName, p.PlayerMomFirstName, p.PlayerMomPhoneArea, p.PlayerMomPhone,
-                   p.PlayerMomWorkPhoneArea, p.PlayerMomWorkPhone, p.PlayerMomMobilePhoneArea, p.PlayerMomMobilePhone, p.PlayerMomEmail,
-                   p.PlayerGuardian2Relationship}};
+    return {
+        Parent{QStringLiteral("Dad"), dadVolunteers_, p.PlayerDadLastName, p.PlayerDadFirstName, p.PlayerDadPhoneArea,
+               p.PlayerDadPhone, p.PlayerDadWorkPhoneArea, p.PlayerDadWorkPhone, p.PlayerDadMobilePhoneArea,
+               p.PlayerDadMobilePhone, p.PlayerDadEmail, p.PlayerGuardian1Relationship},
+        Parent{QStringLiteral("Mom"), momVolunteers_, p.PlayerMomLastName, p.PlayerMomFirstName, p.PlayerMomPhoneArea,
+               p.PlayerMomPhone, p.PlayerMomWorkPhoneArea, p.PlayerMomWorkPhone, p.PlayerMomMobilePhoneArea,
+               p.PlayerMomMobilePhone, p.PlayerMomEmail, p.PlayerGuardian2Relationship}};
 }
 
 void PlayerPane::remindOfParents() {
@@ -46,8 +47,10 @@ bool PlayerPane::isVolunteer(const Parent& parent) {
     if (!parent.lastName.isFilled() || !parent.firstName.isFilled()) return false;
     bool found = false;
     volunteer_.FindVolRecord2(parent.lastName, parent.firstName, parent.phone, true, found);
-    if (found && volunteer_.VolActive && !volunteer_.VolDeletedFlag) volunteer_.FindRegVolRecord(player_.PlayerId, volunteer_.VolId, found);
-    else found = false;
+    if (found && volunteer_.VolActive && !volunteer_.VolDeletedFlag)
+        volunteer_.FindRegVolRecord(player_.PlayerId, volunteer_.VolId, found);
+    else
+        found = false;
     return found;
 }
 
@@ -66,8 +69,10 @@ void PlayerPane::reconcileParents() {
         if (!parent.volunteers) {
             if (linked) endVolunteering();
         } else if (parent.lastName.isFilled() && parent.firstName.isFilled()) {
-            if (linked) followLink(parent);
-            else linkVolunteer(parent);
+            if (linked)
+                followLink(parent);
+            else
+                linkVolunteer(parent);
         }
     }
 }
@@ -130,11 +135,14 @@ void PlayerPane::followLink(const Parent& parent) {
     if (sameName) return updateVolunteer(parent);
     const QString name = u'"' + v.VolFirstName() + u' ' + v.VolLastName() + u'"';
     const bool update = program().dialogs().ask(
-        tr("Volunteer Record Found"), tr("A Volunteer Record was found with the name\n%1.\n\nWould you like to update this Volunteer Record\n"
-                                         "(and any other Player Record(s) associated with %1) \nwith the new name?")
-                                          .arg(name));
-    if (update) updateVolunteer(parent);
-    else replaceVolunteer(parent);
+        tr("Volunteer Record Found"),
+        tr("A Volunteer Record was found with the name\n%1.\n\nWould you like to update this Volunteer Record\n"
+           "(and any other Player Record(s) associated with %1) \nwith the new name?")
+            .arg(name));
+    if (update)
+        updateVolunteer(parent);
+    else
+        replaceVolunteer(parent);
 }
 
 /// The volunteer, and every other child linked in this role, take name and phone over.
@@ -149,13 +157,16 @@ void PlayerPane::updateVolunteer(const Parent& parent) {
     volunteer_.VolDeletedFlag = false;
     volunteer_.SaveVolRecord();
     const QString who = QStringLiteral("Player") + parent.role;
-    database.execute(QStringLiteral("UPDATE tblRegistration SET [%1LastName] = %2, [%1FirstName] = %3, [%1PhoneArea] = %4, [%1Phone] = %5, "
-                                    "[DateStamp] = %6, [TimeStamp] = %7 WHERE [PlayerId] IN (SELECT [PlayerId] FROM tblRegistrationVolunteer "
-                                    "WHERE [VolId] = %8 AND [VolGender] = %9 AND [DeletedFlag] = False) AND [PlayerId] <> ")
-                         .arg(who, datafile::quoted(parent.lastName()), datafile::quoted(parent.firstName()), datafile::quoted(parent.phoneArea()),
-                              datafile::quoted(parent.phone()), datafile::quoted(program().clock().today()),
-                              QString::number(program().clock().secondsSinceMidnight()), QString::number(volunteer_.VolId), datafile::quoted(parent.role)) +
-                     QString::number(player_.PlayerId));
+    database.execute(
+        QStringLiteral(
+            "UPDATE tblRegistration SET [%1LastName] = %2, [%1FirstName] = %3, [%1PhoneArea] = %4, [%1Phone] = %5, "
+            "[DateStamp] = %6, [TimeStamp] = %7 WHERE [PlayerId] IN (SELECT [PlayerId] FROM tblRegistrationVolunteer "
+            "WHERE [VolId] = %8 AND [VolGender] = %9 AND [DeletedFlag] = False) AND [PlayerId] <> ")
+            .arg(who, datafile::quoted(parent.lastName()), datafile::quoted(parent.firstName()),
+                 datafile::quoted(parent.phoneArea()), datafile::quoted(parent.phone()),
+                 datafile::quoted(program().clock().today()), QString::number(program().clock().secondsSinceMidnight()),
+                 QString::number(volunteer_.VolId), datafile::quoted(parent.role)) +
+        QString::number(player_.PlayerId));
     transaction.commit();
 }
 
@@ -164,11 +175,15 @@ void PlayerPane::replaceVolunteer(const Parent& parent) {
     int links = 0;
     volunteer_.CountRegVolRecords(volunteer_.VolId, links);
     const bool last = links < 2;
-    if (last) volunteer_.DeleteVolRecord();
-    else volunteer_.DeleteRegVolRecord();
+    if (last)
+        volunteer_.DeleteVolRecord();
+    else
+        volunteer_.DeleteRegVolRecord();
     if (!makeVolunteer(parent)) return;
-    if (last) volunteer_.UpdateRegVolRecord(volunteer_.VolId);
-    else volunteer_.AddRegVolRecord(player_.PlayerId, volunteer_.VolId, parent.role);
+    if (last)
+        volunteer_.UpdateRegVolRecord(volunteer_.VolId);
+    else
+        volunteer_.AddRegVolRecord(player_.PlayerId, volunteer_.VolId, parent.role);
 }
 
 void PlayerPane::endVolunteering() {
@@ -177,11 +192,13 @@ void PlayerPane::endVolunteering() {
     int links = 0;
     volunteer_.CountRegVolRecords(id, links);
     const QString name = u'"' + volunteer_.VolFirstName() + u' ' + volunteer_.VolLastName() + u'"';
-    const bool retire = known && links < 2 &&
-                        program().dialogs().ask(tr("Delete Volunteer Record?"),
-                                                tr("A Volunteer record was found for %1\nand no other players are associated with\nthis volunteer.\n\n"
-                                                   "Would you like to delete this %1 Volunteer record?")
-                                                    .arg(name));
+    const bool retire =
+        known && links < 2 &&
+        program().dialogs().ask(
+            tr("Delete Volunteer Record?"),
+            tr("A Volunteer record was found for %1\nand no other players are associated with\nthis volunteer.\n\n"
+               "Would you like to delete this %1 Volunteer record?")
+                .arg(name));
     volunteer_.DeleteRegVolRecord();
     if (retire) volunteer_.DeleteVolRecord();
     volunteer_.DeleteAllVolToPositionRecords(id, player_.PlayerId);

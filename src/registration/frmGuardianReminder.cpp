@@ -30,7 +30,8 @@ frmGuardianReminder::frmGuardianReminder(Settings& settings) {
     auto* silence = new QCheckBox(tr("&Don't show this message again."));
     silence->setObjectName(QStringLiteral("chkDontShow"));
     connect(silence, &QCheckBox::toggled, this, [&settings](bool silent) {
-        settings.write(QLatin1String(section), QLatin1String(key), silent ? QStringLiteral("False") : QStringLiteral("True"));
+        settings.write(QLatin1String(section), QLatin1String(key),
+                       silent ? QStringLiteral("False") : QStringLiteral("True"));
     });
     layout->addWidget(silence);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);

@@ -11,7 +11,8 @@
 #include "shell/Choices.h"
 #include "shell/Program.h"
 
-frmVolInfo::frmVolInfo(Program& program, clsVolunteer& volunteer) : program_(program), volunteer_(volunteer), form_(new Form(this)) {
+frmVolInfo::frmVolInfo(Program& program, clsVolunteer& volunteer)
+    : program_(program), volunteer_(volunteer), form_(new Form(this)) {
     setObjectName(QStringLiteral("frmVolInfo"));
     setWindowTitle(tr("New Volunteer Information"));
     clsVolunteer& v = volunteer_;
@@ -22,9 +23,11 @@ frmVolInfo::frmVolInfo(Program& program, clsVolunteer& volunteer) : program_(pro
         .text("txtVolAddress1", tr("Street &Address"), v.VolAddress1, FilterTextWide)
         .text("txtVolAddress2", tr("Apt No."), v.VolAddress2, FilterTextWide)
         .text("txtVolCity", tr("Cit&y"), v.VolCity, FilterTextFull)
-        .choice("cboVolStateId", tr("S&tate"), v.VolStateId, stateIds(program), ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
+        .choice("cboVolStateId", tr("S&tate"), v.VolStateId, stateIds(program),
+                ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
         .text("txtVolPostalCode", tr("&Zip/Postal Code"), v.VolPostalCode, FilterTextFull)
-        .choice("cboVolCountryCode", tr("Co&untry"), v.VolCountryCode, {"Canada", "USA"}, ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
+        .choice("cboVolCountryCode", tr("Co&untry"), v.VolCountryCode, {"Canada", "USA"},
+                ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
         .phone("mskedVolHomePhoneArea", "mskedVolHomePhone", tr("&Home Phone *"), v.VolHomePhoneArea, v.VolHomePhone)
         .phone("mskedVolWorkPhoneArea", "mskedVolWorkPhone", tr("&Work Phone"), v.VolWorkPhoneArea, v.VolWorkPhone)
         .phone("mskedVolFaxPhoneArea", "mskedVolFaxPhone", tr("&Mobile Phone"), v.VolFaxPhoneArea, v.VolFaxPhone)

@@ -3,7 +3,10 @@
 #include "platform/text/Numbers.h"
 
 OptionsRecord::OptionsRecord(StoreContext& context) : RecordClass(context) {
-    open({.source = "tblOptions", .tag = ".clsOptions", .noRecords = "Options Table.", .badMove = "Invalid Options Move Operation."});
+    open({.source = "tblOptions",
+          .tag = ".clsOptions",
+          .noRecords = "Options Table.",
+          .badMove = "Invalid Options Move Operation."});
 }
 
 void OptionsRecord::NewOptionsRecord() {
@@ -18,7 +21,10 @@ bool OptionsRecord::FindFirstOptionsRecord(bool show, bool load) {
 }
 
 DefaultsRecord::DefaultsRecord(StoreContext& context) : RecordClass(context) {
-    open({.source = "tblDefaults", .tag = ".clsOptions", .noRecords = "Defaults Table.", .badMove = "Invalid Defaults Move Operation."});
+    open({.source = "tblDefaults",
+          .tag = ".clsOptions",
+          .noRecords = "Defaults Table.",
+          .badMove = "Invalid Defaults Move Operation."});
 }
 
 void DefaultsRecord::NewDefaultsRecord() {
@@ -45,7 +51,9 @@ void clsOptions::loadBoth() {
 
 void clsOptions::fillGlobals() const {
     const QDate today = OptionsRecord::context().clock.today();
-    const auto numericOr = [](const QString& text, const QString& otherwise) { return isNumeric(text) ? text : otherwise; };
+    const auto numericOr = [](const QString& text, const QString& otherwise) {
+        return isNumeric(text) ? text : otherwise;
+    };
     const QString none = QStringLiteral("0.00");
     const QString first = QStringLiteral("1");
     Globals& globals = OptionsRecord::context().globals;

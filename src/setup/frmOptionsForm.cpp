@@ -68,8 +68,8 @@ void frmOptions::addDefaultsPage(FormBuilder& builder) {
         .masked("mskedCurrentSeason", tr("Season &Year"), "####", o.CurrentSeasonYear)
         .choice("cboOrgAffiliation", tr("Aff&iliation"), o.OrgAffiliation,
                 listOf(program_,
-                     "SELECT DISTINCT[OrganizationName] FROM tblOfficialDivisionNames ORDER BY [OrganizationName]",
-                     "OrganizationName"))
+                       "SELECT DISTINCT[OrganizationName] FROM tblOfficialDivisionNames ORDER BY [OrganizationName]",
+                       "OrganizationName"))
         .choice("cboDefaultDateFormat", tr("Da&te Format"),
                 Binding([&format] { return format().isEmpty() ? QStringLiteral("M/d/yyyy") : format(); },
                         [&format](const QString& value) { format = value; }),

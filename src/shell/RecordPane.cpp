@@ -100,9 +100,12 @@ void RecordPane::move(int code) {
         record_->move(code);
         return show(code == MoveFirst ? 0 : last);
     }
-    if (code == MovePrevious && current <= 0) Q_EMIT said(tr("First Record"));
-    else if (code == MoveNext && current >= last) Q_EMIT said(tr("Last Record"));
-    else show(current + (code == MoveNext ? 1 : -1));
+    if (code == MovePrevious && current <= 0)
+        Q_EMIT said(tr("First Record"));
+    else if (code == MoveNext && current >= last)
+        Q_EMIT said(tr("Last Record"));
+    else
+        show(current + (code == MoveNext ? 1 : -1));
 }
 
 void RecordPane::pick(int index) {
@@ -266,13 +269,14 @@ bool RecordPane::offerToSave(const QString& question, const QString& title) {
 }
 
 bool RecordPane::offerToSaveBeforeClosing() {
-    if (!record_->isChanged() || !program_.dialogs().ask(tr("Save Record?"), tr("Save the current record?"))) return true;
+    if (!record_->isChanged() || !program_.dialogs().ask(tr("Save Record?"), tr("Save the current record?")))
+        return true;
     if (!check().empty()) return save();
     try {
         return write();
     } catch (const std::exception& error) {
-        program_.dialogs().error(tr("Save Record?"), tr("The following error occurred while attempting to save:") + u'\n' +
-                                                         QString::fromUtf8(error.what()));
+        program_.dialogs().error(tr("Save Record?"), tr("The following error occurred while attempting to save:") +
+                                                         u'\n' + QString::fromUtf8(error.what()));
     }
     return program_.dialogs().ask(tr("Save Record?"), tr("If you continue the current operation, \n"
                                                          "changes to your data will be lost.\n"

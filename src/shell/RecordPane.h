@@ -12,17 +12,17 @@ struct Program;
 
 /// What a pane says of itself; everything else about the screen protocol is the same for all.
 struct PaneText {
-    QString tag;            ///< of menu entries: "Cert" makes mnuDataNewCertRecord
-    QString caption;        ///< of the tab
-    QString searchName;     ///< object name of the search list
-    QString searchCaption;  ///< with its access key: "Current &School"
-    QString moveName;       ///< object name of the move buttons; their number follows
-    QString listQuery;      ///< its column Name is the list's text
-    QString checkTitle;     ///< of the box with what the entry lacks
-    QString missingText;    ///< says that the saved record is not in its list
-    QString leaveQuestion{};  ///< asked when its tab is left with unsaved work; empty: as everywhere
-    QString menu{};           ///< its group of the Data menu; empty: as the tab
-    QString noun{};           ///< in that menu: "Player" makes "New Player"; empty: "Add New"
+    QString tag;                ///< of menu entries: "Cert" makes mnuDataNewCertRecord
+    QString caption;            ///< of the tab
+    QString searchName;         ///< object name of the search list
+    QString searchCaption;      ///< with its access key: "Current &School"
+    QString moveName;           ///< object name of the move buttons; their number follows
+    QString listQuery;          ///< its column Name is the list's text
+    QString checkTitle;         ///< of the box with what the entry lacks
+    QString missingText;        ///< says that the saved record is not in its list
+    QString leaveQuestion{};    ///< asked when its tab is left with unsaved work; empty: as everywhere
+    QString menu{};             ///< its group of the Data menu; empty: as the tab
+    QString noun{};             ///< in that menu: "Player" makes "New Player"; empty: "Add New"
     int searchCharacters = 40;  ///< shown of the search list
 };
 

@@ -72,15 +72,20 @@ void RecordScreen::addMenu(RecordPane* added, QWidget* page) {
     QMenu* menu = dataMenu()->addMenu(added->text().menu.isEmpty() ? added->text().caption : added->text().menu);
     menu->menuAction()->setObjectName(QStringLiteral("mnuData") + tag);
     const auto entry = [&](const char* what, const QString& caption, auto run) {
-        QAction* action = addEntry(menu, QStringLiteral("mnuData%1%2Record").arg(QLatin1String(what), tag), caption, run);
+        QAction* action =
+            addEntry(menu, QStringLiteral("mnuData%1%2Record").arg(QLatin1String(what), tag), caption, run);
         return action;
     };
-    entries_.push_back({added, page, menu->menuAction(), entry("New", noun.isEmpty() ? tr("Add &New") : tr("&New %1").arg(noun), [added] { added->addNew(); }),
-                        entry("Save", noun.isEmpty() ? tr("&Save") : tr("&Save %1").arg(noun), [added] { added->save(); }), entry("Delete", noun.isEmpty() ? tr("De&lete") : tr("De&lete %1").arg(noun), [added] { added->remove(); }),
-                        entry("Cancel", tr("Can&cel"), [added] { added->cancel(); })});
+    entries_.push_back(
+        {added, page, menu->menuAction(),
+         entry("New", noun.isEmpty() ? tr("Add &New") : tr("&New %1").arg(noun), [added] { added->addNew(); }),
+         entry("Save", noun.isEmpty() ? tr("&Save") : tr("&Save %1").arg(noun), [added] { added->save(); }),
+         entry("Delete", noun.isEmpty() ? tr("De&lete") : tr("De&lete %1").arg(noun), [added] { added->remove(); }),
+         entry("Cancel", tr("Can&cel"), [added] { added->cancel(); })});
 }
 
-void RecordScreen::addOrder(RecordPane* owner, const QString& name, const QString& caption, const QString& entry, const std::function<void()>& run) {
+void RecordScreen::addOrder(RecordPane* owner, const QString& name, const QString& caption, const QString& entry,
+                            const std::function<void()>& run) {
     QPushButton* button = nullptr;
     if (!name.isEmpty()) {
         button = new QPushButton(caption, buttons_);

@@ -29,9 +29,10 @@ public:
 protected:
     void cameForward() override;
     void undo() override;
-    /// A further order of one pane, as a button behind Add New and an entry of its menu; possible while it is not edited.
-    /// Without a button's name there is only the entry.
-    void addOrder(RecordPane* pane, const QString& button, const QString& caption, const QString& entry, const std::function<void()>& run);
+    /// A further order of one pane, as a button behind Add New and an entry of its menu; possible while it is not
+    /// edited. Without a button's name there is only the entry.
+    void addOrder(RecordPane* pane, const QString& button, const QString& caption, const QString& entry,
+                  const std::function<void()>& run);
     QTabWidget& tabs() { return *tabs_; }
 
 private:

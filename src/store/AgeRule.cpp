@@ -2,7 +2,8 @@
 
 #include "platform/text/Numbers.h"
 
-int CalculateAge(const QString& birthDate, const QString& cutOffMonth, const QString& cutOffDay, const QString& seasonYear) {
+int CalculateAge(const QString& birthDate, const QString& cutOffMonth, const QString& cutOffDay,
+                 const QString& seasonYear) {
     const auto slashAt = [&birthDate](qsizetype at) { return at < birthDate.size() && birthDate[at] == u'/'; };
     const qsizetype monthLength = slashAt(1) ? 1 : 2;
     const qsizetype dayAt = monthLength + 1;

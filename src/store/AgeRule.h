@@ -5,7 +5,8 @@
 /// The league age: what a player reaches by the cut-off date in the season year, whatever today is.
 /// `birthDate` is short date text, "M/D/YYYY"; only its last two digits say the year (30 and up is 19yy, below 20yy),
 /// so a child of 1929 counts as one of 2029. Never below 0.
-int CalculateAge(const QString& birthDate, const QString& cutOffMonth, const QString& cutOffDay, const QString& seasonYear);
+int CalculateAge(const QString& birthDate, const QString& cutOffMonth, const QString& cutOffDay,
+                 const QString& seasonYear);
 
 /// Month and day of a cut-off date, as texts that are numbers.
 struct CutOff {

@@ -15,21 +15,25 @@ namespace {
 QJsonObject baseTables() {
     registerSeed();
     QFile seed(QStringLiteral(":/seed/base_rows.json"));
-    if (!seed.open(QIODevice::ReadOnly)) throw datafile::Error(datafile::Fault::NotFound, QStringLiteral("The program's base rows are missing."));
+    if (!seed.open(QIODevice::ReadOnly))
+        throw datafile::Error(datafile::Fault::NotFound, QStringLiteral("The program's base rows are missing."));
     return QJsonDocument::fromJson(seed.readAll()).object();
 }
 
 }  // namespace
 
-void addBaseRows(const datafile::Database& database, const QString& table, const std::function<bool(const BaseRow&)>& wanted) {
+void addBaseRows(const datafile::Database& database, const QString& table,
+                 const std::function<bool(const BaseRow&)>& wanted) {
     datafile::Recordset rows = database.openRecordset(table);
     for (const QJsonValue& value : baseTables().value(table).toArray()) {
         const QVariantMap columns = value.toObject().toVariantMap();
         BaseRow row;
-        for (auto column = columns.begin(); column != columns.end(); ++column) row.insert(column.key(), column.value().toString());
+        for (auto column = columns.begin(); column != columns.end(); ++column)
+            row.insert(column.key(), column.value().toString());
         if (wanted && !wanted(row)) continue;
         rows.addNew();
-        for (auto column = row.begin(); column != row.end(); ++column) rows.set(column.key(), datafile::Value{column.value()});
+        for (auto column = row.begin(); column != row.end(); ++column)
+            rows.set(column.key(), datafile::Value{column.value()});
         rows.update();
     }
 }

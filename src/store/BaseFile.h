@@ -14,4 +14,5 @@ void makeBaseFile(const QString& path);
 using BaseRow = QMap<QString, QString>;
 
 /// Adds the rows of that table that a new data file has; without `wanted` all of them.
-void addBaseRows(const datafile::Database& database, const QString& table, const std::function<bool(const BaseRow&)>& wanted = {});
+void addBaseRows(const datafile::Database& database, const QString& table,
+                 const std::function<bool(const BaseRow&)>& wanted = {});

@@ -19,8 +19,10 @@ void Text::blank() {
 }
 
 void Text::read(const datafile::Value& value) {
-    if (const auto* text = std::get_if<QString>(&value)) value_ = *text;
-    else value_ = datafile::toText(value);
+    if (const auto* text = std::get_if<QString>(&value))
+        value_ = *text;
+    else
+        value_ = datafile::toText(value);
     const bool replace = (rule_.kind == TextRule::Kind::FilledElse && value_.isEmpty()) ||
                          (rule_.kind == TextRule::Kind::NumericElse && !isNumeric(value_));
     if (replace) value_ = QString::fromLatin1(rule_.otherwise);

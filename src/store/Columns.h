@@ -95,9 +95,9 @@ private:
 class Whole final : public Column {
 public:
     struct Rule {
-        int otherwise = 0;                ///< what a stored value that is no number reads as
+        int otherwise = 0;  ///< what a stored value that is no number reads as
         int blank = 0;
-        int (*reading)(int) = nullptr;    ///< applied to what was stored
+        int (*reading)(int) = nullptr;  ///< applied to what was stored
     };
     Whole(RecordClass* owner, const char* name) : Whole(owner, name, Rule()) {}
     Whole(RecordClass* owner, const char* name, Rule rule) : Column(owner, name), rule_(rule) {}
@@ -137,7 +137,7 @@ private:
 enum class NoDate {
     Empty,  ///< stays without a date
     Today,
-    Stamp   ///< 1/1/1940, older than any save
+    Stamp  ///< 1/1/1940, older than any save
 };
 
 class Day final : public Column {
@@ -182,7 +182,9 @@ private:
 /// The three columns that nearly every table ends with: when a row was last saved, and whether it is deleted.
 struct Stamps {
     explicit Stamps(RecordClass* owner, int timeOtherwise = 1)
-        : DateStamp(owner, "DateStamp", NoDate::Stamp), TimeStamp(owner, "TimeStamp", {.otherwise = timeOtherwise}), DeletedFlag(owner, "DeletedFlag") {}
+        : DateStamp(owner, "DateStamp", NoDate::Stamp),
+          TimeStamp(owner, "TimeStamp", {.otherwise = timeOtherwise}),
+          DeletedFlag(owner, "DeletedFlag") {}
     Day DateStamp;
     Whole TimeStamp;
     Flag DeletedFlag;

@@ -19,8 +19,8 @@ constexpr char versionColumn[] = "DBVersion";
 constexpr char firstVersion[] = "Version 1.0";
 constexpr char firstSeason[] = "2000";
 
-/// The work tables mean nothing between two starts. Mostly they are empty, and then nothing is written. The fee report's
-/// came with a later version.
+/// The work tables mean nothing between two starts. Mostly they are empty, and then nothing is written. The fee
+/// report's came with a later version.
 void emptyWorkTables(StoreContext& context, const Database& database) {
     const std::pair<const char*, RecordKind> kinds[] = {
         {"tblTempResults", TempResults}, {"tblTempSearchList", TempSearchList}, {"tblTempFeeReport", TempFeeReport}};

@@ -226,7 +226,8 @@ bool RecordClass::firstOrTell(bool show, bool loadRow, const FindTexts& texts) {
 }
 
 bool RecordClass::findOrTell(const QString& criteria, const QString& name, bool show, bool loadRow) {
-    return findOrTell(criteria, name, show, loadRow, {notFoundTitle, "No Records Found for %1.", "No Records found for %1."});
+    return findOrTell(criteria, name, show, loadRow,
+                      {notFoundTitle, "No Records Found for %1.", "No Records found for %1."});
 }
 
 bool RecordClass::findOrTell(const QString& criteria, bool show, bool loadRow) {

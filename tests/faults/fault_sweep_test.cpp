@@ -141,7 +141,8 @@ protected:
     void checkUpgrade(const Result& result) {
         datafile::checkIntegrity(file(".kmr"));
         datafile::checkIntegrity(file(".BKM"));
-        const QString version = datafile::Workspace().openDatabase(file(".kmr")).openRecordset("tblVersion").text("DBVersion");
+        const QString version =
+            datafile::Workspace().openDatabase(file(".kmr")).openRecordset("tblVersion").text("DBVersion");
         EXPECT_TRUE(!saidDone(result) || version == GetCurrentDBVersion()) << "the user was told otherwise";
         EXPECT_EQ(playersOf(file(".kmr")).size(), before_.size());
         EXPECT_EQ(workOn(0).told, QStringList{"done"}) << "the next start failed";
@@ -165,7 +166,8 @@ protected:
         const bool mayLeave = kind == u"die" || kind == u"stays-broken";
         for (const QString& name : QDir(folder_->path()).entryList(QDir::Files | QDir::Hidden))
             EXPECT_TRUE(name == u"Kestrelmoor.kmr" || name == u"Kestrelmoor.BKM" || name == u"Journal.Dat" ||
-                        (mayLeave && (name.endsWith('~') || name.endsWith(QLatin1String("-journal")) || name == u"Kestrelmoor.CPT")))
+                        (mayLeave && (name.endsWith('~') || name.endsWith(QLatin1String("-journal")) ||
+                                      name == u"Kestrelmoor.CPT")))
                 << name.toStdString();
     }
 
@@ -185,8 +187,10 @@ TEST_P(FaultSweep, LeavesTheStateBeforeOrAfterAndTellsTheTruth) {
         SCOPED_TRACE(testing::Message() << "change " << change << ": " << result.at.toStdString() << "; told "
                                         << testing::PrintToString(result.told));
         try {
-            if (isUpgrade()) checkUpgrade(result);
-            else checkDataFile(result), checkSafetyCopy(result);
+            if (isUpgrade())
+                checkUpgrade(result);
+            else
+                checkDataFile(result), checkSafetyCopy(result);
         } catch (const std::exception& error) {
             ADD_FAILURE() << error.what();
         }

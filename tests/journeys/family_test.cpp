@@ -15,19 +15,23 @@ protected:
     void SetUp() override {
         for (const char* row : {"tblDivision ([DivName], [DivRegistrationFee]) VALUES (\"Minors\", \"$85.00\")",
                                 "tblDivision ([DivName], [DivRegistrationFee]) VALUES (\"Majors\", \"$95.00\")",
-                                "tblVolunteer ([VolLastName], [VolFirstName], [VolHomePhone], [VolActive]) VALUES (\"Rowan\", \"Dana\", \"555-0101\", False)"})
+                                "tblVolunteer ([VolLastName], [VolFirstName], [VolHomePhone], [VolActive]) VALUES "
+                                "(\"Rowan\", \"Dana\", \"555-0101\", False)"})
             running.league.database().execute(QStringLiteral("INSERT INTO ") + QLatin1String(row));
         screen = running.open("frmRegister");
     }
 
     QString player(const QString& first, const char* column) {
-        return running.league.value("SELECT * FROM tblRegistration WHERE [PlayerFirstName] = " + datafile::quoted(first), column);
+        return running.league.value(
+            "SELECT * FROM tblRegistration WHERE [PlayerFirstName] = " + datafile::quoted(first), column);
     }
     QString volunteerOf(const QString& child, const char* role) {
-        return running.league.value("SELECT tblVolunteer.* FROM tblVolunteer, tblRegistrationVolunteer WHERE tblVolunteer![VolId] = "
-                                    "tblRegistrationVolunteer![VolId] AND tblRegistrationVolunteer![DeletedFlag] = False AND [PlayerId] = " +
-                                        player(child, "PlayerId") + " AND tblRegistrationVolunteer![VolGender] = " + datafile::quoted(QString(role)),
-                                    "VolFirstName");
+        return running.league.value(
+            "SELECT tblVolunteer.* FROM tblVolunteer, tblRegistrationVolunteer WHERE tblVolunteer![VolId] = "
+            "tblRegistrationVolunteer![VolId] AND tblRegistrationVolunteer![DeletedFlag] = False AND [PlayerId] = " +
+                player(child, "PlayerId") +
+                " AND tblRegistrationVolunteer![VolGender] = " + datafile::quoted(QString(role)),
+            "VolFirstName");
     }
     void choose(const char* box, const QString& text) {
         auto* choice = control<ChoiceBox>(screen, box);
@@ -81,7 +85,8 @@ TEST_F(FamilyJourney, ThreeChildrenWithTwoVolunteeringParentsThroughASeason) {
     EXPECT_EQ(player("Ann", "PlayerFeeAmount"), "$85.00");
     EXPECT_EQ(volunteerOf("Ann", "Dad"), "Dana");
     EXPECT_EQ(volunteerOf("Ann", "Mom"), "Kim");
-    EXPECT_EQ(running.league.count("SELECT * FROM tblVolunteer WHERE [VolActive] = True"), 2) << "Dana was there, and is active again";
+    EXPECT_EQ(running.league.count("SELECT * FROM tblVolunteer WHERE [VolActive] = True"), 2)
+        << "Dana was there, and is active again";
 
     addSibling("Ben", "5/6/2014");
     addSibling("Cleo", "7/8/2016");
@@ -114,7 +119,8 @@ TEST_F(FamilyJourney, ThreeChildrenWithTwoVolunteeringParentsThroughASeason) {
     EXPECT_EQ(player("Cleo", "PlayerTeamId"), "0") << "no team goes along into another division";
     EXPECT_EQ(player("Ann", "PlayerTeamId"), "5");
 
-    running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::Yes, "Are you sure you want to delete player Rowan, Cleo - 7/8/2016?");
+    running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::Yes,
+                                          "Are you sure you want to delete player Rowan, Cleo - 7/8/2016?");
     press(screen, "cmdDelete");
     EXPECT_EQ(status(screen), "Record \"Rowan, Cleo - 7/8/2016\" Deleted.");
     EXPECT_EQ(player("Cleo", "DeletedFlag"), "1");

@@ -10,7 +10,8 @@
 struct RunningProgram {
     RunningProgram() {
         loadGlobals(league.context);
-        settings.write(QStringLiteral("WindowSettings\\frmRegister"), QStringLiteral("ShowGuardianMsg"), QStringLiteral("False"));
+        settings.write(QStringLiteral("WindowSettings\\frmRegister"), QStringLiteral("ShowGuardianMsg"),
+                       QStringLiteral("False"));
     }
 
     /// Opens a screen and waits until it stands.

@@ -36,8 +36,7 @@ void joined(sqlite3_context* context, int count, sqlite3_value** values) {
 void shortDate(sqlite3_context* context, int, sqlite3_value** values) {
     const int size = sqlite3_value_bytes(values[0]);
     const auto* iso = static_cast<const char*>(sqlite3_value_blob(values[0]));
-    if (size < 10 || iso[4] != '-' || iso[7] != '-')
-        return sqlite3_result_value(context, values[0]);
+    if (size < 10 || iso[4] != '-' || iso[7] != '-') return sqlite3_result_value(context, values[0]);
     char text[11];
     int at = 0;
     for (const int part : {5, 8}) {
@@ -71,10 +70,13 @@ QString explain(Fault fault, const QString& path) {
         case Fault::NotFound: return tr("The data file %1 does not exist.").arg(name);
         case Fault::NotADataFile: return tr("The file %1 is not a Kestrelmoor data file.").arg(name);
         case Fault::Damaged:
-            return tr("The data file %1 is damaged.  Restore it from a backup or from its safety copy (.BKM).").arg(name);
+            return tr("The data file %1 is damaged.  Restore it from a backup or from its safety copy (.BKM).")
+                .arg(name);
         case Fault::ReadOnly:
-            return tr("The data file %1 cannot be written.  Check the permissions of the file and of its folder.").arg(name);
-        case Fault::Locked: return tr("The data file %1 is in use by another program.  Close it there and try again.").arg(name);
+            return tr("The data file %1 cannot be written.  Check the permissions of the file and of its folder.")
+                .arg(name);
+        case Fault::Locked:
+            return tr("The data file %1 is in use by another program.  Close it there and try again.").arg(name);
         case Fault::Full: return tr("There is no space left on the disk of %1.  Nothing was saved.").arg(name);
         case Fault::State: return tr("A part of the work failed.  Nothing of it was saved.");
         case Fault::OutOfMemory: return tr("There is not enough memory.");
@@ -118,7 +120,9 @@ bool Statement::step() {
 
 int Statement::columns() const { return sqlite3_column_count(statement_); }
 QString Statement::name(int column) const { return QString::fromUtf8(sqlite3_column_name(statement_, column)); }
-QString Statement::declaredType(int column) const { return QString::fromUtf8(sqlite3_column_decltype(statement_, column)); }
+QString Statement::declaredType(int column) const {
+    return QString::fromUtf8(sqlite3_column_decltype(statement_, column));
+}
 qint64 Statement::number(int column) const { return sqlite3_column_int64(statement_, column); }
 
 QString Statement::text(int column) const {
@@ -153,7 +157,8 @@ void Connection::open(bool mustExist) {
         }
         if (sqlite3_db_readonly(handle_, "main") == 1 || !files::canWriteFolder(QFileInfo(path_).absolutePath()))
             throw Error(Fault::ReadOnly, explain(Fault::ReadOnly, path_));
-        Statement pages(*this, QStringLiteral("SELECT page_count * page_size FROM pragma_page_count, pragma_page_size"));
+        Statement pages(*this,
+                        QStringLiteral("SELECT page_count * page_size FROM pragma_page_count, pragma_page_size"));
         pages.step();
         if (pages.number(0) > QFileInfo(path_).size()) throw Error(Fault::Damaged, explain(Fault::Damaged, path_));
         tableNames();
@@ -200,8 +205,8 @@ sqlite3_stmt* Connection::take(const QString& sql) {
     if (sqlite3_stmt* idle = idle_.take(sql)) return idle;
     sqlite3_stmt* statement = nullptr;
     const QByteArray text = sql.toUtf8();
-    const int code = sqlite3_prepare_v3(handle_, text.constData(), static_cast<int>(text.size()), SQLITE_PREPARE_PERSISTENT,
-                                        &statement, nullptr);
+    const int code = sqlite3_prepare_v3(handle_, text.constData(), static_cast<int>(text.size()),
+                                        SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
     if (code != SQLITE_OK) raise(sqlite3_extended_errcode(handle_), sql);
     return statement;
 }
@@ -232,14 +237,14 @@ void Connection::raise(int code, const QString& sql) {
             const QString rule = what.section(u':', 1);
             if (rule == QLatin1String("empty"))
                 throw Error(Fault::NotAllowed, tr("The column %1 may not be empty.").arg(name));
-            throw Error(Fault::TooLong, tr("The text is too long for the column %1, which takes %2 characters.").arg(name, rule));
+            throw Error(Fault::TooLong,
+                        tr("The text is too long for the column %1, which takes %2 characters.").arg(name, rule));
         }
         case SQLITE_CONSTRAINT_NOTNULL:
             throw Error(Fault::Required, tr("A value is required in the column %1.").arg(column));
         case SQLITE_CONSTRAINT_UNIQUE:
         case SQLITE_CONSTRAINT_PRIMARYKEY:
-        case SQLITE_CONSTRAINT_ROWID:
-            throw Error(Fault::Duplicate, tr("Another row has the same %1.").arg(what));
+        case SQLITE_CONSTRAINT_ROWID: throw Error(Fault::Duplicate, tr("Another row has the same %1.").arg(what));
         case SQLITE_CONSTRAINT_FOREIGNKEY: {
             QStringList columns;
             for (const QString& name : tableNames())
@@ -249,13 +254,17 @@ void Connection::raise(int code, const QString& sql) {
                             if (relation.foreignTable == def->name || relation.table == def->name)
                                 columns << relation.foreignTable + u'.' + relation.foreignField;
             columns.removeDuplicates();
-            throw Error(Fault::Relation, tr("Rows that belong together would be torn apart: %1.").arg(columns.join(QStringLiteral(", "))));
+            throw Error(
+                Fault::Relation,
+                tr("Rows that belong together would be torn apart: %1.").arg(columns.join(QStringLiteral(", "))));
         }
         default: break;
     }
     Fault fault = faultOf(code);
-    const bool ofSystem = fault == Fault::InputOutput || fault == Fault::ReadOnly;  // a journal that cannot be made, too
-    if (ofSystem && handle_ && (sqlite3_system_errno(handle_) == ENOSPC || sqlite3_system_errno(handle_) == EDQUOT)) fault = Fault::Full;
+    const bool ofSystem =
+        fault == Fault::InputOutput || fault == Fault::ReadOnly;  // a journal that cannot be made, too
+    if (ofSystem && handle_ && (sqlite3_system_errno(handle_) == ENOSPC || sqlite3_system_errno(handle_) == EDQUOT))
+        fault = Fault::Full;
     if (depth_ > 0 && handle_ && sqlite3_get_autocommit(handle_)) ended_ = fault;
     throw Error(fault, fault == Fault::Statement ? QString(message + u'\n' + sql) : explain(fault, path_));
 }
@@ -263,7 +272,8 @@ void Connection::raise(int code, const QString& sql) {
 QStringList Connection::tableNames() {
     if (!namesKnown_) {
         tableNames_.clear();
-        Statement names(*this, QStringLiteral("SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' ESCAPE '^' ORDER BY name"));
+        Statement names(*this, QStringLiteral("SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE "
+                                              "'sqlite^_%' ESCAPE '^' ORDER BY name"));
         while (names.step()) tableNames_ << names.text(0);
         for (const QString& name : std::as_const(tableNames_)) tables_.insert(name.toLower(), nullptr);
         namesKnown_ = true;
@@ -280,7 +290,8 @@ void Connection::forgetSchema() {
 /// The engine's own way of adding a column reads all rows of a table with rules, for each column anew.
 void Connection::rewriteDefinition(const QString& table, const QString& text) {
     const auto run = [this](const QString& pragma) {
-        const int code = sqlite3_exec(handle_, QString(QStringLiteral("PRAGMA ") + pragma).toUtf8().constData(), nullptr, nullptr, nullptr);
+        const int code = sqlite3_exec(handle_, QString(QStringLiteral("PRAGMA ") + pragma).toUtf8().constData(),
+                                      nullptr, nullptr, nullptr);
         if (code != SQLITE_OK) raise(sqlite3_extended_errcode(handle_), pragma);
     };
     const auto protect = [this](int on) { sqlite3_db_config(handle_, SQLITE_DBCONFIG_DEFENSIVE, on, nullptr); };
@@ -313,16 +324,20 @@ const TableDef* Connection::table(const QString& name) {
 }
 
 TableDef Connection::readTable(const QString& name) {
-    Statement head(*this, QStringLiteral("SELECT name, sql FROM sqlite_schema WHERE type = 'table' AND name = ? COLLATE NOCASE"));
+    Statement head(
+        *this, QStringLiteral("SELECT name, sql FROM sqlite_schema WHERE type = 'table' AND name = ? COLLATE NOCASE"));
     head.bind(Value{name}).step();
     TableDef table{.name = head.text(0)};
     const QString text = head.text(1);
-    Statement columns(*this, QStringLiteral("SELECT name, type, \"notnull\", dflt_value, pk FROM pragma_table_info(?)"));
+    Statement columns(*this,
+                      QStringLiteral("SELECT name, type, \"notnull\", dflt_value, pk FROM pragma_table_info(?)"));
     columns.bind(Value{table.name});
     while (columns.step())
         table.fields << sql::readColumn(columns.text(0), columns.text(1), columns.number(2) != 0,
-                                        isNull(columns.value(3)) ? QString() : columns.text(3), columns.number(4) != 0, text);
-    Statement indexes(*this, QStringLiteral("SELECT name, \"unique\" FROM pragma_index_list(?) WHERE origin = 'c' ORDER BY name"));
+                                        isNull(columns.value(3)) ? QString() : columns.text(3), columns.number(4) != 0,
+                                        text);
+    Statement indexes(
+        *this, QStringLiteral("SELECT name, \"unique\" FROM pragma_index_list(?) WHERE origin = 'c' ORDER BY name"));
     indexes.bind(Value{table.name});
     while (indexes.step()) {
         IndexDef index{indexes.text(0).mid(table.name.size() + 1), {}, false, indexes.number(1) != 0};

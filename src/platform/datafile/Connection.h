@@ -30,7 +30,8 @@ public:
     bool step();
     /// Runs a statement that gives no rows.
     void run() {
-        while (step()) {}
+        while (step()) {
+        }
     }
     int columns() const;
     QString name(int column) const;
@@ -66,8 +67,8 @@ public:
     const TableDef* table(const QString& name);
     QStringList tableNames();
     void forgetSchema();
-    /// Puts `text`, a CREATE TABLE that adds columns behind those of the table, in the place of the table's own. Its rows
-    /// stay as they are. Within a transaction.
+    /// Puts `text`, a CREATE TABLE that adds columns behind those of the table, in the place of the table's own. Its
+    /// rows stay as they are. Within a transaction.
     void rewriteDefinition(const QString& table, const QString& text);
 
     /// Closes the file, lets `between` do its work on it, and opens it again.

@@ -37,7 +37,8 @@ void checkIntegrity(const QString& path) {
     sqlite3* handle = nullptr;
     sqlite3_stmt* check = nullptr;
     QString finding;
-    if (sqlite3_open_v2(QFile::encodeName(path).constData(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK ||
+    if (sqlite3_open_v2(QFile::encodeName(path).constData(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX,
+                        nullptr) != SQLITE_OK ||
         sqlite3_prepare_v2(handle, "PRAGMA integrity_check(1)", -1, &check, nullptr) != SQLITE_OK ||
         sqlite3_step(check) != SQLITE_ROW)
         finding = QString::fromUtf8(sqlite3_errmsg(handle));

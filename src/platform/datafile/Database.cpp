@@ -47,7 +47,8 @@ qint64 Database::execute(const QString& text) const {
 
 QStringList Database::queryPlan(const QString& query) const {
     const dialect::Shape shape = dialect::shapeOf(query);
-    Statement plan(*connection_, QStringLiteral("EXPLAIN QUERY PLAN ") + dialect::translate(shape.text, lookup(*connection_)));
+    Statement plan(*connection_,
+                   QStringLiteral("EXPLAIN QUERY PLAN ") + dialect::translate(shape.text, lookup(*connection_)));
     plan.bind(shape.values);
     QStringList steps;
     while (plan.step()) steps << plan.text(3);
@@ -66,7 +67,8 @@ TableDef Database::need(const QString& table) const {
 }
 
 void Database::createTable(const TableDef& table) const {
-    if (connection_->table(table.name)) throw Error(Fault::Statement, tr("There is a table %1 already.").arg(table.name));
+    if (connection_->table(table.name))
+        throw Error(Fault::Statement, tr("There is a table %1 already.").arg(table.name));
     Transaction transaction(*this, Transaction::Kind::Schema);
     Statement(*connection_, sql::createTable(table)).run();
     for (const IndexDef& index : table.indexes) Statement(*connection_, sql::createIndex(table.name, index)).run();
@@ -87,7 +89,8 @@ void Database::addFields(const QString& table, const QList<FieldDef>& fields) co
     TableDef to = from;
     bool plain = true;
     for (const FieldDef& field : fields) {
-        if (to.field(field.name)) throw Error(Fault::Statement, tr("The table %1 has a column %2 already.").arg(table, field.name));
+        if (to.field(field.name))
+            throw Error(Fault::Statement, tr("The table %1 has a column %2 already.").arg(table, field.name));
         const bool flag = field.type == ColumnType::Boolean;
         plain = plain && (flag || (!field.hasDefault && !field.required)) && field.type != ColumnType::AutoKey;
         to.fields << field;
@@ -136,18 +139,19 @@ void Database::rebuild(const TableDef& from, const TableDef& to) const {
         columns << sql::identifier(field.name);
         values << (isNew ? QStringLiteral("NULL") : columns.last());
     }
-    QStringList statements{
-        sql::createTable(made),
-        QStringLiteral("INSERT INTO %1 (%2) SELECT %3 FROM %4")
-            .arg(sql::identifier(made.name), columns.join(u','), values.join(u','), sql::identifier(from.name))};
+    QStringList statements{sql::createTable(made), QStringLiteral("INSERT INTO %1 (%2) SELECT %3 FROM %4")
+                                                       .arg(sql::identifier(made.name), columns.join(u','),
+                                                            values.join(u','), sql::identifier(from.name))};
     const auto isKey = [](const FieldDef& field) { return field.type == ColumnType::AutoKey; };
     if (std::any_of(to.fields.begin(), to.fields.end(), isKey))  // a key that was given out is never given out again
         statements << QStringLiteral("DELETE FROM sqlite_sequence WHERE name = ") + sql::literal(made.name)
                    << QStringLiteral("INSERT INTO sqlite_sequence SELECT %1, seq FROM sqlite_sequence WHERE name = %2")
                           .arg(sql::literal(made.name), sql::literal(from.name));
-    statements << QStringLiteral("DROP TABLE ") + sql::identifier(from.name) << QStringLiteral("PRAGMA legacy_alter_table = ON")
-               << QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(sql::identifier(made.name), sql::identifier(to.name))
-               << QStringLiteral("PRAGMA legacy_alter_table = OFF");
+    statements
+        << QStringLiteral("DROP TABLE ") + sql::identifier(from.name)
+        << QStringLiteral("PRAGMA legacy_alter_table = ON")
+        << QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(sql::identifier(made.name), sql::identifier(to.name))
+        << QStringLiteral("PRAGMA legacy_alter_table = OFF");
     for (const QString& statement : statements) Statement(*connection_, statement).run();
     for (const IndexDef& index : to.indexes) Statement(*connection_, sql::createIndex(to.name, index)).run();
     transaction.commit();

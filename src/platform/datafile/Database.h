@@ -38,8 +38,8 @@ public:
     /// come without touching a row, however many rows there are.
     void addFields(const QString& table, const QList<FieldDef>& fields) const;
     void deleteField(const QString& table, const QString& field) const;
-    /// Gives the table of that name this definition: columns in its order, their rules, indexes and relations. Rows keep
-    /// what they hold in columns of the same name and must meet the new rules.
+    /// Gives the table of that name this definition: columns in its order, their rules, indexes and relations. Rows
+    /// keep what they hold in columns of the same name and must meet the new rules.
     void changeTable(const TableDef& to) const;
     void addIndex(const QString& table, const IndexDef& index) const;
     void deleteIndex(const QString& table, const QString& index) const;

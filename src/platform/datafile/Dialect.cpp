@@ -26,8 +26,9 @@ namespace dialect {
 namespace {
 
 [[noreturn]] void refuse(const QString& reason, const QString& statement) {
-    throw Error(Fault::Statement,
-                QCoreApplication::translate("datafile", "The query cannot be understood: %1\n%2").arg(reason, statement));
+    throw Error(
+        Fault::Statement,
+        QCoreApplication::translate("datafile", "The query cannot be understood: %1\n%2").arg(reason, statement));
 }
 
 bool isWordStart(QChar c) { return c.isLetter() || c == u'_'; }
@@ -145,11 +146,11 @@ Tokens tokensOf(const QString& shape) {
 }
 
 bool isClauseWord(const Token& token) {
-    static constexpr std::array words{"SELECT", "FROM",  "WHERE", "ORDER", "GROUP",  "HAVING",  "BY",    "AND",
-                                      "OR",     "NOT",   "IN",    "IS",    "NULL",   "AS",      "ON",    "INNER",
-                                      "LEFT",   "RIGHT", "OUTER", "JOIN",  "ASC",    "DESC",    "LIKE",  "BETWEEN",
-                                      "INSERT", "INTO",  "UPDATE", "SET",  "DELETE", "DISTINCT", "VALUES", "UNION",
-                                      "LIMIT",  "EXISTS", "CASE", "WHEN",  "THEN",   "ELSE",    "END",   "ALL"};
+    static constexpr std::array words{"SELECT", "FROM",   "WHERE",  "ORDER", "GROUP",  "HAVING",   "BY",     "AND",
+                                      "OR",     "NOT",    "IN",     "IS",    "NULL",   "AS",       "ON",     "INNER",
+                                      "LEFT",   "RIGHT",  "OUTER",  "JOIN",  "ASC",    "DESC",     "LIKE",   "BETWEEN",
+                                      "INSERT", "INTO",   "UPDATE", "SET",   "DELETE", "DISTINCT", "VALUES", "UNION",
+                                      "LIMIT",  "EXISTS", "CASE",   "WHEN",  "THEN",   "ELSE",     "END",    "ALL"};
     return token.kind == TokenKind::Word &&
            std::any_of(words.begin(), words.end(), [&](const char* word) { return token.isWord(word); });
 }
@@ -224,8 +225,8 @@ private:
     /// A column, table!column, table.* or a function with its arguments.
     Unit reference(size_t end) {
         const Token& first = tokens_[at_++];
-        const bool call = first.kind == TokenKind::Word && at_ < end && tokens_[at_].isSymbol(u'(') &&
-                          !lookup_(first.text);
+        const bool call =
+            first.kind == TokenKind::Word && at_ < end && tokens_[at_].isSymbol(u'(') && !lookup_(first.text);
         if (call) return {first.text + group(end).text, false, false, true};
         if (at_ + 1 < end && (tokens_[at_].isSymbol(u'!') || tokens_[at_].isSymbol(u'.'))) {
             const Token& second = tokens_[at_ + 1];
@@ -269,7 +270,8 @@ std::optional<size_t> topLevel(const Tokens& tokens, const char* word, size_t fr
 }
 
 qsizetype countValues(const Tokens& tokens, size_t from, size_t to) {
-    return std::count_if(tokens.begin() + static_cast<std::ptrdiff_t>(from), tokens.begin() + static_cast<std::ptrdiff_t>(to),
+    return std::count_if(tokens.begin() + static_cast<std::ptrdiff_t>(from),
+                         tokens.begin() + static_cast<std::ptrdiff_t>(to),
                          [](const Token& token) { return token.kind == TokenKind::Value; });
 }
 

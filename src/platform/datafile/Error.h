@@ -6,13 +6,13 @@
 namespace datafile {
 
 enum class Fault {
-    NotFound,         ///< no such file
-    NotADataFile,     ///< a file, but none of ours
-    Damaged,          ///< ours, but its content cannot be trusted
-    ReadOnly,         ///< the file or its folder cannot be written
-    Locked,           ///< another process holds it
-    Full,             ///< no space left
-    InputOutput,      ///< the system reported a read or write failure
+    NotFound,      ///< no such file
+    NotADataFile,  ///< a file, but none of ours
+    Damaged,       ///< ours, but its content cannot be trusted
+    ReadOnly,      ///< the file or its folder cannot be written
+    Locked,        ///< another process holds it
+    Full,          ///< no space left
+    InputOutput,   ///< the system reported a read or write failure
     OutOfMemory,
     TooLong,          ///< a text longer than its column
     Required,         ///< a missing required value

@@ -65,9 +65,11 @@ void Recordset::open() {
     query_ = dialect::translateQuery(shape_.text, [this](const QString& name) { return connection_->table(name); });
     if (query_.table.isEmpty()) type_ = Type::Snapshot;
     if (type_ == Type::Dynaset) {
-        rowSql_ = QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?").arg(query_.columns, sql::identifier(query_.table));
+        rowSql_ =
+            QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?").arg(query_.columns, sql::identifier(query_.table));
         blockSql_ = QStringLiteral("SELECT %1, rowid FROM %2 WHERE rowid IN (%3)")
-                        .arg(query_.columns, sql::identifier(query_.table), QStringLiteral("?,").repeated(qsizetype{readAheadRows}).chopped(1));
+                        .arg(query_.columns, sql::identifier(query_.table),
+                             QStringLiteral("?,").repeated(qsizetype{readAheadRows}).chopped(1));
     }
     describe();
     requery();
@@ -83,7 +85,8 @@ void Recordset::describe() {
         const QString type = statement.declaredType(i);
         const FieldDef* own = table ? table->field(name) : nullptr;
         const ColumnType kind =
-            own ? own->type : sql::readColumn(name, type.isEmpty() ? QStringLiteral("TEXT") : type, false, {}, false, {}).type;
+            own ? own->type
+                : sql::readColumn(name, type.isEmpty() ? QStringLiteral("TEXT") : type, false, {}, false, {}).type;
         fields_.push_back({name, kind, own != nullptr});
         if (!fieldByName_.contains(name.toLower())) fieldByName_.insert(name.toLower(), i);
     }
@@ -106,8 +109,10 @@ QString Recordset::rowsOf(const char* wanted, const QString& criteria) const {
 
 QString Recordset::keyQuery(const QString& criteria, const char* ending) const {
     QString text = rowsOf("rowid", criteria);
-    if (!query_.orderBy.isEmpty()) text += QStringLiteral(" ORDER BY ") + query_.orderBy;
-    else if (criteria.isEmpty()) text += QStringLiteral(" ORDER BY rowid");
+    if (!query_.orderBy.isEmpty())
+        text += QStringLiteral(" ORDER BY ") + query_.orderBy;
+    else if (criteria.isEmpty())
+        text += QStringLiteral(" ORDER BY rowid");
     return text + QLatin1String(ending);
 }
 
@@ -182,8 +187,10 @@ int Recordset::position() {
     takeKeys();
     if (position_ < 0) {
         const auto found = std::find(keys_->begin(), keys_->end(), current_);
-        if (found == keys_->end()) keys_->push_back(current_), position_ = static_cast<int>(keys_->size()) - 1;
-        else position_ = static_cast<int>(found - keys_->begin());
+        if (found == keys_->end())
+            keys_->push_back(current_), position_ = static_cast<int>(keys_->size()) - 1;
+        else
+            position_ = static_cast<int>(found - keys_->begin());
     }
     return position_;
 }
@@ -227,7 +234,10 @@ void Recordset::movePrevious() {
     if (place_ == Place::Empty || place_ == Place::Before)
         throw Error(Fault::NoCurrentRecord, tr("There is no current record."));
     takeKeys();
-    const int previous = (place_ == Place::After ? static_cast<int>(keys_->size()) : place_ == Place::Gap ? position_ : position()) - 1;
+    const int previous = (place_ == Place::After ? static_cast<int>(keys_->size())
+                          : place_ == Place::Gap ? position_
+                                                 : position()) -
+                         1;
     if (previous < 0) {
         place_ = keys_->empty() ? Place::Empty : Place::Before;
         return;
@@ -242,8 +252,10 @@ void Recordset::findFirst(const QString& criteria) {
     if (type_ == Type::Snapshot) return findInSnapshot(shape);
     QString& statement = findSql_[shape.text];
     if (statement.isEmpty())
-        statement = keyQuery(dialect::translate(shape.text, [this](const QString& name) { return connection_->table(name); }, query_.table),
-                             " LIMIT 1");
+        statement =
+            keyQuery(dialect::translate(
+                         shape.text, [this](const QString& name) { return connection_->table(name); }, query_.table),
+                     " LIMIT 1");
     Statement find(*connection_, statement);
     noMatch_ = !find.bind(keyValues(shape.values)).step();
     if (noMatch_) return;
@@ -258,7 +270,8 @@ void Recordset::findInSnapshot(const dialect::Shape& shape) {
     QStringList marks;
     for (int i = 0; i < fieldCount(); ++i) {
         const bool repeated = fieldByName_.value(fieldName(i).toLower()) != i;
-        columns << sql::identifier(repeated ? fieldName(i) + u' ' + QString::number(i) : fieldName(i)) + QStringLiteral(" COLLATE NOCASE");
+        columns << sql::identifier(repeated ? fieldName(i) + u' ' + QString::number(i) : fieldName(i)) +
+                       QStringLiteral(" COLLATE NOCASE");
         marks << QStringLiteral("?");
     }
     Statement(*connection_, QStringLiteral("DROP TABLE IF EXISTS temp.searched")).run();
@@ -266,7 +279,8 @@ void Recordset::findInSnapshot(const dialect::Shape& shape) {
     {
         const QString add = QStringLiteral("INSERT INTO searched VALUES (%1)").arg(marks.join(u','));
         for (const Values& row : snapshot_) Statement(*connection_, add).bind(row).run();
-        const QString wanted = dialect::translate(shape.text, [this](const QString& name) { return connection_->table(name); });
+        const QString wanted =
+            dialect::translate(shape.text, [this](const QString& name) { return connection_->table(name); });
         Statement find(*connection_, QStringLiteral("SELECT rowid FROM searched WHERE %1 LIMIT 1").arg(wanted));
         noMatch_ = !find.bind(shape.values).step();
         if (!noMatch_) standOn(find.number(0)), position_ = static_cast<int>(current_) - 1;
@@ -338,7 +352,8 @@ void Recordset::readBlock(size_t at) {
     aheadChanges_ = connection_->changes();
     Statement statement(*connection_, blockSql_);
     statement.bind(shape_.values, 0, static_cast<size_t>(query_.columnValues));
-    for (size_t i = 0; i < readAheadRows; ++i) statement.bind(Value{from[static_cast<std::ptrdiff_t>(std::min(i, count - 1))]});
+    for (size_t i = 0; i < readAheadRows; ++i)
+        statement.bind(Value{from[static_cast<std::ptrdiff_t>(std::min(i, count - 1))]});
     while (statement.step()) {
         const auto place = std::find(from, from + static_cast<std::ptrdiff_t>(count), statement.number(fieldCount()));
         readRow(statement, ahead_[static_cast<size_t>(place - from)]);
@@ -396,14 +411,18 @@ void Recordset::writeRow() {
     }
     const QString table = sql::identifier(query_.table);
     if (mode_ == EditMode::Add) {
-        const QString text = names.isEmpty() ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table)
-                                             : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, names.join(u','), marks.join(u','));
+        const QString text =
+            names.isEmpty()
+                ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table)
+                : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, names.join(u','), marks.join(u','));
         Statement(*connection_, text).bind(values).run();
         return;
     }
     if (names.isEmpty()) return;
     const qint64 before = connection_->changes();
-    Statement write(*connection_, QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?").arg(table, names.join(QStringLiteral(" = ?, "))));
+    Statement write(
+        *connection_,
+        QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?").arg(table, names.join(QStringLiteral(" = ?, "))));
     write.bind(values).bind(Value{current_}).run();
     if (connection_->changes() == before) refuseRemoved();
 }
@@ -414,7 +433,8 @@ void Recordset::remove() {
     if (place_ != Place::Row) throw Error(Fault::NoCurrentRecord, tr("There is no current record."));
     const int at = position();
     connection_->write([this] {
-        Statement row(*connection_, QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(sql::identifier(query_.table)));
+        Statement row(*connection_,
+                      QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(sql::identifier(query_.table)));
         row.bind(Value{current_}).run();
     });
     keys_->erase(keys_->begin() + at);

@@ -111,26 +111,26 @@ private:
     Type type_;
     dialect::Shape shape_;
     dialect::Query query_;
-    QString rowSql_;                       ///< reads the row of a key
-    QString blockSql_;                     ///< reads the rows of as many keys as a block has, each with its key behind it
+    QString rowSql_;    ///< reads the row of a key
+    QString blockSql_;  ///< reads the rows of as many keys as a block has, each with its key behind it
     std::vector<Field> fields_;
-    QHash<QString, int> fieldByName_;      ///< lower-case name
-    QHash<QString, QString> findSql_;      ///< criteria shape -> statement
+    QHash<QString, int> fieldByName_;  ///< lower-case name
+    QHash<QString, QString> findSql_;  ///< criteria shape -> statement
     int epoch_ = 0;
 
     Place place_ = Place::Empty;
     qint64 current_ = 0;
-    int position_ = -1;                    ///< -1: not yet looked up
+    int position_ = -1;  ///< -1: not yet looked up
     std::optional<std::vector<qint64>> keys_;
     bool noMatch_ = false;
 
     Values row_;
     bool rowLoaded_ = false;
-    qint64 rowChanges_ = 0;                ///< the connection's count of changes when the row was read
+    qint64 rowChanges_ = 0;  ///< the connection's count of changes when the row was read
     int sequentialMoves_ = 0;
-    std::vector<Values> ahead_;            ///< a block of rows read in one go; its storage is used again
-    size_t aheadFrom_ = 0;                 ///< position of the block's first row
-    size_t aheadNext_ = 0;                 ///< of the first row that was not taken out of it yet
+    std::vector<Values> ahead_;  ///< a block of rows read in one go; its storage is used again
+    size_t aheadFrom_ = 0;       ///< position of the block's first row
+    size_t aheadNext_ = 0;       ///< of the first row that was not taken out of it yet
     size_t aheadEnd_ = 0;
     qint64 aheadChanges_ = 0;
     std::vector<Values> snapshot_;

@@ -8,10 +8,9 @@ namespace datafile::sql {
 
 namespace {
 
-constexpr std::array typeNames{
-    std::pair{ColumnType::Long, "INTEGER"}, std::pair{ColumnType::Integer, "SMALLINT"},
-    std::pair{ColumnType::Boolean, "BOOLEAN"}, std::pair{ColumnType::Date, "DATE TEXT"},
-    std::pair{ColumnType::Double, "DOUBLE"}};
+constexpr std::array typeNames{std::pair{ColumnType::Long, "INTEGER"}, std::pair{ColumnType::Integer, "SMALLINT"},
+                               std::pair{ColumnType::Boolean, "BOOLEAN"}, std::pair{ColumnType::Date, "DATE TEXT"},
+                               std::pair{ColumnType::Double, "DOUBLE"}};
 
 QString notEmptyCheck(const QString& name) { return QStringLiteral("CHECK(%1 <> '')").arg(identifier(name)); }
 
@@ -38,7 +37,8 @@ QString column(const FieldDef& field) {
                     .arg(field.size)
                     .arg(identifier(QStringLiteral("%1:%2").arg(field.name).arg(field.size)), name);
         if (!field.allowZeroLength)
-            text += QStringLiteral(" CONSTRAINT %1 %2").arg(identifier(field.name + QStringLiteral(":empty")), notEmptyCheck(field.name));
+            text += QStringLiteral(" CONSTRAINT %1 %2")
+                        .arg(identifier(field.name + QStringLiteral(":empty")), notEmptyCheck(field.name));
     } else {
         for (const auto& [type, typeName] : typeNames)
             if (type == field.type) text += u' ' + QLatin1String(typeName);
@@ -95,14 +95,15 @@ FieldDef readColumn(const QString& name, const QString& declaredType, bool notNu
         field.defaultValue = defaultSql;
         if (defaultSql.startsWith(u'\''))
             field.defaultValue = defaultSql.mid(1).chopped(1).replace(QStringLiteral("''"), QStringLiteral("'"));
-        if (field.type == ColumnType::Boolean && field.defaultValue == u'0') field.hasDefault = false, field.defaultValue.clear();
+        if (field.type == ColumnType::Boolean && field.defaultValue == u'0')
+            field.hasDefault = false, field.defaultValue.clear();
     }
     return field;
 }
 
 QList<RelationDef> readRelations(const QString& table, const QString& tableSql) {
-    const QRegularExpression pattern(
-        QStringLiteral("CONSTRAINT \"([^\"]+)\" FOREIGN KEY\\(\"([^\"]+)\"\\) REFERENCES \"([^\"]+)\"\\(\"([^\"]+)\"\\)"));
+    const QRegularExpression pattern(QStringLiteral(
+        "CONSTRAINT \"([^\"]+)\" FOREIGN KEY\\(\"([^\"]+)\"\\) REFERENCES \"([^\"]+)\"\\(\"([^\"]+)\"\\)"));
     QList<RelationDef> relations;
     for (auto matches = pattern.globalMatch(tableSql); matches.hasNext();) {
         const auto match = matches.next();

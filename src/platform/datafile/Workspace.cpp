@@ -28,7 +28,9 @@ void removeSidecars(const QString& path) {
 
 }  // namespace
 
-std::shared_ptr<Connection> Workspace::find(const QString& path) const { return connections_.value(keyOf(path)).lock(); }
+std::shared_ptr<Connection> Workspace::find(const QString& path) const {
+    return connections_.value(keyOf(path)).lock();
+}
 
 Database Workspace::openDatabase(const QString& path) {
     auto connection = find(path);
@@ -40,7 +42,8 @@ Database Workspace::openDatabase(const QString& path) {
 }
 
 Database Workspace::createDatabase(const QString& path) {
-    if (QFileInfo::exists(path)) throw Error(Fault::State, tr("The file %1 exists already.").arg(QDir::toNativeSeparators(path)));
+    if (QFileInfo::exists(path))
+        throw Error(Fault::State, tr("The file %1 exists already.").arg(QDir::toNativeSeparators(path)));
     auto connection = std::make_shared<Connection>(path, false);
     connections_.insert(keyOf(path), connection);
     return Database(std::move(connection));
@@ -58,7 +61,8 @@ void Workspace::copyDatabase(const QString& from, const QString& to) {
 }
 
 void Workspace::compactDatabase(const QString& from, const QString& to) {
-    if (QFileInfo::exists(to)) throw Error(Fault::State, tr("The file %1 exists already.").arg(QDir::toNativeSeparators(to)));
+    if (QFileInfo::exists(to))
+        throw Error(Fault::State, tr("The file %1 exists already.").arg(QDir::toNativeSeparators(to)));
     const QString made = files::temporaryName(to);
     const auto discard = [&made] {
         QFile::remove(made);
@@ -90,8 +94,10 @@ void Workspace::replaceDatabase(const QString& path, const QString& made) {
             passOn(error);
         }
     };
-    if (const auto connection = find(path)) connection->whileClosed(swap);
-    else swap();
+    if (const auto connection = find(path))
+        connection->whileClosed(swap);
+    else
+        swap();
 }
 
 }  // namespace datafile

@@ -26,8 +26,11 @@ QString tr(const char* text) { return QCoreApplication::translate("files", text)
 /// An open file that closes itself; every failure raises.
 class Handle {
 public:
-    Handle(const QString& path, int flags, mode_t mode = 0) : path_(path), id_(::open(QFile::encodeName(path), flags | O_CLOEXEC, mode)) {
-        if (id_ < 0) fail(flags & O_CREAT ? tr("The file %1 could not be written.") : tr("The file %1 could not be read."), path, errno);
+    Handle(const QString& path, int flags, mode_t mode = 0)
+        : path_(path), id_(::open(QFile::encodeName(path), flags | O_CLOEXEC, mode)) {
+        if (id_ < 0)
+            fail(flags & O_CREAT ? tr("The file %1 could not be written.") : tr("The file %1 could not be read."), path,
+                 errno);
     }
     ~Handle() {
         if (id_ >= 0) ::close(id_);
@@ -50,14 +53,15 @@ public:
     }
     void finish(qint64 expected) {
         if (::fsync(id_) != 0) fail(tr("The file %1 could not be written."), path_, errno);
-        struct stat about{};
-        if (::fstat(id_, &about) != 0 || about.st_size != expected) fail(tr("The file %1 could not be written."), path_, EIO);
+        struct stat about {};
+        if (::fstat(id_, &about) != 0 || about.st_size != expected)
+            fail(tr("The file %1 could not be written."), path_, EIO);
         const int id = id_;
         id_ = -1;
         if (::close(id) != 0) fail(tr("The file %1 could not be written."), path_, errno);
     }
     mode_t mode() const {
-        struct stat about{};
+        struct stat about {};
         return ::fstat(id_, &about) == 0 ? about.st_mode & 0777 : 0644;
     }
 
@@ -82,14 +86,15 @@ bool Error::readOnly() const { return code_ == EACCES || code_ == EPERM || code_
 QString temporaryName(const QString& path) {
     QString name;
     do {
-        name = path + QStringLiteral(".%1~").arg(QRandomGenerator::global()->generate() % 0xfffff, 5, 16, QLatin1Char('0'));
+        name = path +
+               QStringLiteral(".%1~").arg(QRandomGenerator::global()->generate() % 0xfffff, 5, 16, QLatin1Char('0'));
     } while (QFileInfo::exists(name));
     return name;
 }
 
 bool sameFile(const QString& one, const QString& other) {
-    struct stat a{};
-    struct stat b{};
+    struct stat a {};
+    struct stat b {};
     return ::stat(QFile::encodeName(one), &a) == 0 && ::stat(QFile::encodeName(other), &b) == 0 &&
            a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }

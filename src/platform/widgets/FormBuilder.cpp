@@ -176,7 +176,8 @@ void FormBuilder::add(const QString& name, QWidget* editor, QLabel* caption, con
 template <class Edit>
 void FormBuilder::addTextBox(const QString& name, Edit* editor, QLabel* caption, const Binding& value) {
     add(name, editor, caption, value, [editor](const QString& text) { editor->setText(text); });
-    QObject::connect(editor, &QLineEdit::textChanged, form_, [form = form_, name](const QString& text) { form->edit(name, text); });
+    QObject::connect(editor, &QLineEdit::textChanged, form_,
+                     [form = form_, name](const QString& text) { form->edit(name, text); });
 }
 
 FormBuilder& FormBuilder::text(const QString& name, const QString& caption, Binding value, KeyFilter filter) {
@@ -199,7 +200,8 @@ FormBuilder& FormBuilder::masked(const QString& name, const QString& caption, co
     return *this;
 }
 
-FormBuilder& FormBuilder::phone(const QString& areaName, const QString& name, const QString& caption, Binding area, Binding number) {
+FormBuilder& FormBuilder::phone(const QString& areaName, const QString& name, const QString& caption, Binding area,
+                                Binding number) {
     auto* both = new QWidget;
     auto* layout = new QHBoxLayout(both);
     layout->setContentsMargins({});
@@ -236,7 +238,8 @@ FormBuilder& FormBuilder::money(const QString& name, const QString& caption, Bin
         const auto amount = Money::parse(text);
         editor->setText(amount ? amount->text() : text);
     });
-    QObject::connect(editor, &QLineEdit::textChanged, form_, [form = form_, name](const QString& text) { form->edit(name, text); });
+    QObject::connect(editor, &QLineEdit::textChanged, form_,
+                     [form = form_, name](const QString& text) { form->edit(name, text); });
     return *this;
 }
 
@@ -257,7 +260,8 @@ FormBuilder& FormBuilder::choice(const QString& name, const QString& caption, Bi
     keepWidth(editor, longest);
     named(editor, name, caption);
     add(name, editor, place(editor, caption, editor), value, [editor](const QString& text) { editor->setText(text); });
-    QObject::connect(editor, &ChoiceBox::edited, form_, [form = form_, name](const QString& text) { form->edit(name, text); });
+    QObject::connect(editor, &ChoiceBox::edited, form_,
+                     [form = form_, name](const QString& text) { form->edit(name, text); });
     return *this;
 }
 
@@ -274,7 +278,8 @@ FormBuilder& FormBuilder::date(const QString& name, const QString& caption, Date
                      .write = [write = value.write](const QVariant& now) { write(now.toDate()); },
                      .display = [editor](const QVariant& now) { editor->setDate(now.toDate()); },
                      .isReadable = [editor] { return editor->isReadable(); }});
-    QObject::connect(editor, &DateBox::edited, form_, [form = form_, name](const QDate& now) { form->edit(name, now); });
+    QObject::connect(editor, &DateBox::edited, form_,
+                     [form = form_, name](const QDate& now) { form->edit(name, now); });
     return *this;
 }
 
@@ -312,11 +317,13 @@ FormBuilder& FormBuilder::comments(const QString& name, const QString& caption, 
     named(editor, name, caption);
     span_ = grid_->pairs();
     add(name, editor, place(editor, caption, editor), value, [editor](const QString& text) { editor->setText(text); });
-    QObject::connect(editor, &CommentBox::edited, form_, [form = form_, name](const QString& text) { form->edit(name, text); });
+    QObject::connect(editor, &CommentBox::edited, form_,
+                     [form = form_, name](const QString& text) { form->edit(name, text); });
     return *this;
 }
 
-FormBuilder& FormBuilder::shown(const QString& name, const QString& caption, std::function<QString()> read, int characters) {
+FormBuilder& FormBuilder::shown(const QString& name, const QString& caption, std::function<QString()> read,
+                                int characters) {
     auto* value = new QLabel;
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);

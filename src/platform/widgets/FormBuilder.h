@@ -41,7 +41,8 @@ public:
     FormBuilder& text(const QString& name, const QString& caption, Binding value, KeyFilter filter = {});
     FormBuilder& masked(const QString& name, const QString& caption, const QString& mask, Binding value);
     /// Area and number; the captions belong to the area box.
-    FormBuilder& phone(const QString& areaName, const QString& name, const QString& caption, Binding area, Binding number);
+    FormBuilder& phone(const QString& areaName, const QString& name, const QString& caption, Binding area,
+                       Binding number);
     /// An amount: shown as money, kept as typed.
     FormBuilder& money(const QString& name, const QString& caption, Binding value);
     FormBuilder& choice(const QString& name, const QString& caption, Binding value, const QStringList& entries,

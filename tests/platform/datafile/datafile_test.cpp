@@ -22,14 +22,16 @@ FieldDef column(const char* name, ColumnType type) { return {.name = name, .type
 class DataFileTest : public testing::Test {
 protected:
     DataFileTest() : database(workspace.createDatabase(path())) {
-        database.createTable({.name = "tblDivision",
-                              .fields = {key("DivisionId"), text("DivName", 10, true), column("DeletedFlag", ColumnType::Boolean)},
-                              .indexes = {{"DivisionName", {"DivName"}}}});
-        database.createTable({.name = "tblPlayer",
-                              .fields = {key("PlayerId"), column("DivisionId", ColumnType::Long), text("LastName", 30),
-                                         text("FirstName", 30), column("BirthDate", ColumnType::Date),
-                                         column("Age", ColumnType::Integer), column("DeletedFlag", ColumnType::Boolean)},
-                              .indexes = {{"Name", {"LastName", "FirstName", "BirthDate", "DeletedFlag"}}}});
+        database.createTable(
+            {.name = "tblDivision",
+             .fields = {key("DivisionId"), text("DivName", 10, true), column("DeletedFlag", ColumnType::Boolean)},
+             .indexes = {{"DivisionName", {"DivName"}}}});
+        database.createTable(
+            {.name = "tblPlayer",
+             .fields = {key("PlayerId"), column("DivisionId", ColumnType::Long), text("LastName", 30),
+                        text("FirstName", 30), column("BirthDate", ColumnType::Date),
+                        column("Age", ColumnType::Integer), column("DeletedFlag", ColumnType::Boolean)},
+             .indexes = {{"Name", {"LastName", "FirstName", "BirthDate", "DeletedFlag"}}}});
     }
 
     QString path() const { return folder.filePath("league.kmr"); }
@@ -104,8 +106,9 @@ TEST_F(DataFileTest, SnapshotStaysAsItWasAndCanBeSearched) {
     addDivision("Minors");
     addPlayer("Smith", "Zoe", QDate(2011, 12, 3));
     addPlayer("Smith", "Al", QDate(2012, 1, 1));
-    Recordset joined = database.openRecordset("SELECT tblPlayer.*, tblDivision.* FROM tblPlayer, tblDivision WHERE "
-                                              "tblPlayer![DivisionId] = tblDivision![DivisionId] ORDER BY [FirstName]");
+    Recordset joined = database.openRecordset(
+        "SELECT tblPlayer.*, tblDivision.* FROM tblPlayer, tblDivision WHERE "
+        "tblPlayer![DivisionId] = tblDivision![DivisionId] ORDER BY [FirstName]");
     database.execute("DELETE FROM tblPlayer");
     EXPECT_EQ(joined.recordCount(), 2);
     joined.findFirst("LastName = \"smith\" AND BirthDate = #12-3-2011#");
@@ -196,14 +199,24 @@ TEST_F(DataFileTest, RulesOfColumnsAreErrorsThatNameTheColumn) {
     for (const auto& [table, name, value, fault] : cases) {
         Recordset rows = database.openRecordset(table);
         QString said;
-        EXPECT_EQ(faultOf([&, table = table, name = name, value = value] { rows.addNew(); rows.set(name, value); rows.update(); }, &said), fault) << name;
+        EXPECT_EQ(faultOf(
+                      [&, table = table, name = name, value = value] {
+                          rows.addNew();
+                          rows.set(name, value);
+                          rows.update();
+                      },
+                      &said),
+                  fault)
+            << name;
         EXPECT_TRUE(said.contains(name)) << said.toStdString();
     }
     EXPECT_EQ(database.openRecordset("tblDivision").recordCount(), 1);
-    database.createTable({.name = "tblTeamField", .fields = {column("DivisionId", ColumnType::Long)},
+    database.createTable({.name = "tblTeamField",
+                          .fields = {column("DivisionId", ColumnType::Long)},
                           .relations = {{"DivisionCheck", "tblDivision", "DivisionId", "tblTeamField", "DivisionId"}}});
     QString said;
-    EXPECT_EQ(faultOf([&] { database.execute("INSERT INTO tblTeamField ([DivisionId]) VALUES (77)"); }, &said), Fault::Relation);
+    EXPECT_EQ(faultOf([&] { database.execute("INSERT INTO tblTeamField ([DivisionId]) VALUES (77)"); }, &said),
+              Fault::Relation);
     EXPECT_TRUE(said.contains("tblTeamField.DivisionId")) << said.toStdString();
     database.execute("INSERT INTO tblTeamField ([DivisionId]) SELECT [DivisionId] FROM tblDivision");
     EXPECT_EQ(faultOf([&] { database.execute("DELETE FROM tblDivision"); }), Fault::Relation);
@@ -213,9 +226,11 @@ TEST_F(DataFileTest, ListsReadDisplayTextsFromTheIndexAlone) {
     addPlayer("Smith", "Zoe", QDate(2011, 12, 3));
     addPlayer("O\"Neil", "Bo", QDate(1999, 1, 20));
     addPlayer("Gone", "Al", QDate(2010, 1, 1), 1, true);
-    const QString query = "SELECT *, ([LastName] & \", \" & [FirstName] & \" - \" & [BirthDate]) as Name FROM tblPlayer "
-                          "WHERE tblPlayer![DeletedFlag] = False ORDER BY [LastName], [FirstName], [BirthDate]";
-    EXPECT_EQ(database.readList(query, "Name"), (std::vector<QString>{"O\"Neil, Bo - 1/20/1999", "Smith, Zoe - 12/3/2011"}));
+    const QString query =
+        "SELECT *, ([LastName] & \", \" & [FirstName] & \" - \" & [BirthDate]) as Name FROM tblPlayer "
+        "WHERE tblPlayer![DeletedFlag] = False ORDER BY [LastName], [FirstName], [BirthDate]";
+    EXPECT_EQ(database.readList(query, "Name"),
+              (std::vector<QString>{"O\"Neil, Bo - 1/20/1999", "Smith, Zoe - 12/3/2011"}));
     Recordset players = database.openRecordset("tblPlayer");
     players.findFirst("LastName = " + quoted(QStringLiteral("O\"Neil")) + " AND BirthDate = #1-20-99#");
     EXPECT_FALSE(players.noMatch());

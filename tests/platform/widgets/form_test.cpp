@@ -35,7 +35,10 @@ protected:
             .check("chkRight", "Right", {[this] { return right; }, [this](bool flag) { right = flag; }})
             .check("chkLeft", "Left", {[this] { return left; }, [this](bool flag) { left = flag; }})
             .comments("txtComments", "Comments", bound(comments, 20));
-        builder.tab("Two").frame({}).yesNo("optHelps", "Helps?", {[this] { return helps; }, [this](bool yes) { helps = yes; }}).text("txtNameAgain", "Name", bound(name, 8));
+        builder.tab("Two")
+            .frame({})
+            .yesNo("optHelps", "Helps?", {[this] { return helps; }, [this](bool yes) { helps = yes; }})
+            .text("txtNameAgain", "Name", bound(name, 8));
         form->resize(900, 400);
         form->show();
         form->refresh();
@@ -98,7 +101,8 @@ TEST_F(FormTest, TabGoesFromFieldToFieldInTheOrderOfTheDeclaration) {
         order << QApplication::focusWidget()->objectName();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(order, (QStringList{"txtName", "mskedArea", "mskedPhone", "cboSize", "dtpBirth", "mskedFee", "chkRight", "chkLeft", "txtComments"}));
+    EXPECT_EQ(order, (QStringList{"txtName", "mskedArea", "mskedPhone", "cboSize", "dtpBirth", "mskedFee", "chkRight",
+                                  "chkLeft", "txtComments"}));
 }
 
 TEST_F(FormTest, WrongDateStaysInItsBoxAndIsNamed) {
