@@ -1,6 +1,7 @@
 #include "tour/Guide.h"
 
 #include <QLabel>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPainter>
 #include <QRadioButton>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int patience = 20000;    // milliseconds
 constexpr int watchInterval = 10;  // milliseconds
+constexpr int mostStops = 100;     // of the Tab key on a form
 
 }  // namespace
 
@@ -80,6 +82,23 @@ void Guide::clickTool(const QString& action) {
     for (auto* bar : front().findChildren<QToolBar*>())
         if (auto* found = bar->findChild<QAction*>(action)) return click(*bar->widgetForAction(found));
     fail("There is no " + action + " on a toolbar.");
+}
+
+void Guide::clickMenu(const QString& menu, const QString& entry) {
+    auto& bar = *front().findChild<QMenuBar*>();
+    auto& opened = control<QMenu>(menu);
+    auto& action = control<QAction>(entry);
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(opened.menuAction()).center());
+    waitFor([&] { return opened.isVisible(); }, "The menu " + menu);
+    QTest::mouseClick(&opened, Qt::LeftButton, {}, opened.actionGeometry(&action).center());
+}
+
+void Guide::fill(const QString& field, const QString& text) {
+    for (int stops = 0; focus() != field; ++stops) {
+        require(stops < mostStops, "The way to " + field);
+        key(Qt::Key_Tab);
+    }
+    type(text);
 }
 
 void Guide::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {

@@ -40,6 +40,10 @@ public:
     void click(QWidget& widget);
     /// The button of a toolbar's action.
     void clickTool(const QString& action);
+    /// The entry of a menu in the active screen's menu bar.
+    void clickMenu(const QString& menu, const QString& entry);
+    /// Goes on to the field with the Tab key and types over what stands there.
+    void fill(const QString& field, const QString& text);
     /// Keys go to whatever has the focus.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     void type(const QString& text);

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QRadioButton>
 
 namespace {
@@ -39,10 +40,30 @@ constexpr Stop afterLastName[] = {
     {"cboPlayerHowFeePaid", "Check"},
     {"dtpPlayerRegistrationDate", ""},
     {"txtPlayerTryoutNumber", "118"},
-    {"cboPlayerDivision", "Minors Softball"},
+    {"cboPlayerDivision", "Rookie Ball"},
+};
+
+constexpr Stop ofDivision[] = {
+    {"txtDivName", "Rookie Ball"},     {"mskedDivMinAge", "8"},         {"mskedDivMaxAge", "10"},
+    {"cboDivGender", "Male & Female"}, {"cboDivSport", "Baseball"},     {"cboDivAgeCutOffMonth", "August"},
+    {"cboDivAgeCutOffDay", "31"},      {"txtDivRegistrationFee", "85"},
+};
+
+constexpr Stop ofSibling[] = {
+    {"txtPlayerFirstName", "Linden"},
+    {"dtpPlayerBirthDate", "3/2/2018"},
+    {"cboPlayerDivision", "Rookie Ball"},
+};
+
+constexpr Stop ofParents[] = {
+    {"cboPlayerGuardian1Relationship", "Father"},
+    {"txtPlayerDadFirstName", "Rowan"},
+    {"cboPlayerGuardian2Relationship", "Mother"},
+    {"txtPlayerMomFirstName", "Hazel"},
 };
 
 const QString child = QStringLiteral("Winterbourne, Juniper - 9/14/2016");
+const QString sibling = QStringLiteral("Winterbourne, Linden - 3/2/2018");
 
 }  // namespace
 
@@ -51,11 +72,15 @@ Tour::Tour(ProgramParts& parts, Guide& guide, QString pdf) : parts_(parts), guid
 void Tour::take() {
     start();
     openRegistration();
+    renameOrganization();
+    addDivision();
     startChild();
     fillChild();
     fillParents();
     saveChild();
     findChild();
+    addSibling();
+    showVolunteer();
     addSchool();
     previewList();
     saveList();
@@ -79,22 +104,50 @@ void Tour::openRegistration() {
     guide_.begin("Registration");
     guide_.click("cmdRegister");
     guide_.waitForScreen("frmRegister");
-    search("Sa");
+    search("cboPlayerSearchList", "Sa");
     guide_.picture("registration-search");
     guide_.key(Qt::Key_Return);
     const QString found = guide_.control<QLineEdit>("txtPlayerLastName").text();
     guide_.require(found.startsWith("Sa"), "A player whose name begins with \"Sa\"");
 }
 
-/// Types into the search list, which has the focus after Alt+U.
-void Tour::search(const QString& text) {
+/// Types into the search list of that name, which has the focus after Alt+U.
+void Tour::search(const QString& list, const QString& text) {
     guide_.key(Qt::Key_U, Qt::AltModifier);
-    guide_.waitForFocus("cboPlayerSearchList");
+    guide_.waitForFocus(list);
     guide_.type(text);
+}
+
+void Tour::renameOrganization() {
+    guide_.begin("The organization's name in the preferences");
+    guide_.during([this] { guide_.clickMenu("mnuTools", "mnuToolsPreferences"); }, "The preferences",
+                  [this] {
+                      guide_.waitForFocus("txtOrganizationName");
+                      guide_.key(Qt::Key_A, Qt::ControlModifier);
+                      guide_.type("Maple Hollow Youth Baseball and Softball");
+                      guide_.picture("preferences");
+                      guide_.click("cmdSave");
+                      guide_.require(!guide_.control("cmdSave").isEnabled(), "The saved preferences");
+                      guide_.click("cmdClose");
+                  });
+}
+
+void Tour::addDivision() {
+    guide_.begin("A division");
+    guide_.clickTool("btnTeams");
+    guide_.waitForScreen("frmTeams");
+    guide_.key(Qt::Key_N, Qt::AltModifier);
+    guide_.waitForFocus("txtDivName");
+    for (const Stop& stop : ofDivision) guide_.fill(stop.field, stop.typed);
+    guide_.key(Qt::Key_S, Qt::AltModifier);
+    guide_.waitForStatus("Record \"Rookie Ball\" Saved.");
+    guide_.picture("division");
 }
 
 void Tour::startChild() {
     guide_.begin("A new player with nothing but a last name");
+    guide_.clickTool("btnRegister");
+    guide_.waitForScreen("frmRegister");
     guide_.key(Qt::Key_N, Qt::AltModifier);
     guide_.waitForFocus("txtPlayerLastName");
     guide_.picture("registration-new");
@@ -121,11 +174,8 @@ void Tour::fillChild() {
 void Tour::fillParents() {
     guide_.begin("The parents");
     guide_.clickTab("Parent Info.");
-    for (const auto& [field, name] :
-         {std::pair{"txtPlayerDadFirstName", "Rowan"}, {"txtPlayerMomFirstName", "Hazel"}}) {
-        guide_.click(field);
-        guide_.type(name);
-    }
+    for (const Stop& stop : ofParents) guide_.fill(stop.field, stop.typed);
+    guide_.click("optPlayerDadVolunteer0");
     guide_.picture("registration-parents");
     for (const auto& [tab, name] :
          {std::pair{"School/Uniform", "school"}, {"Medical", "medical"}, {"Custom Fields", "custom"}}) {
@@ -136,21 +186,50 @@ void Tour::fillParents() {
 }
 
 void Tour::saveChild() {
-    guide_.begin("Save");
-    guide_.key(Qt::Key_S, Qt::AltModifier);
+    guide_.begin("Save, with the parent who volunteers");
+    guide_.during([this] { guide_.key(Qt::Key_S, Qt::AltModifier); }, "The form of the new volunteer",
+                  [this] {
+                      guide_.picture("new-volunteer");
+                      guide_.click("cmdSave");
+                  });
     guide_.waitForStatus("Record \"" + child + "\" Saved.");
     guide_.picture("registration-saved");
 }
 
 void Tour::findChild() {
     guide_.begin("Find the player again");
-    search("Ma");
+    search("cboPlayerSearchList", "Ma");
     guide_.key(Qt::Key_Return);
     guide_.require(guide_.control<QLineEdit>("txtPlayerFirstName").text() != "Juniper", "Another player");
-    search("winterb");
+    search("cboPlayerSearchList", "winterb");
     guide_.key(Qt::Key_Return);
     guide_.require(guide_.control<QLineEdit>("txtPlayerFirstName").text() == "Juniper", "The same player");
     guide_.picture("registration-found");
+}
+
+void Tour::addSibling() {
+    guide_.begin("A sibling, whose parent volunteers too");
+    guide_.click("cmdAddSibling");
+    guide_.waitForFocus("txtPlayerLastName");
+    for (const Stop& stop : ofSibling) guide_.fill(stop.field, stop.typed);
+    guide_.picture("sibling");
+    guide_.clickTab("Parent Info.");
+    guide_.click("optPlayerDadVolunteer0");
+    guide_.clickTab("Players");
+    guide_.key(Qt::Key_S, Qt::AltModifier);  // the volunteer is known by now
+    guide_.waitForStatus("Record \"" + sibling + "\" Saved.");
+}
+
+void Tour::showVolunteer() {
+    guide_.begin("The volunteer and both children");
+    guide_.clickTab("Volunteer Registrations");
+    search("cboVolSearchList", "winterb");
+    guide_.key(Qt::Key_Return);
+    guide_.require(guide_.control<QLineEdit>("txtVolFirstName").text() == "Rowan", "The parent as a volunteer");
+    guide_.picture("volunteer");
+    guide_.clickTab("Positions and Certifications");
+    guide_.require(guide_.control<QListView>("lstVolPlayers").model()->rowCount() == 2, "Both children of the parent");
+    guide_.picture("volunteer-children");
 }
 
 void Tour::addSchool() {
