@@ -1,5 +1,6 @@
 #include "tour/Guide.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -99,6 +100,8 @@ void Guide::fill(const QString& field, const QString& text) {
         key(Qt::Key_Tab);
     }
     type(text);
+    const auto* list = qobject_cast<QComboBox*>(QApplication::focusWidget());
+    require(!list || list->currentText() == text, text + " in " + field);
 }
 
 void Guide::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
@@ -109,7 +112,12 @@ void Guide::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 void Guide::type(const QString& text) {
     QWidget* widget = QApplication::focusWidget();
     if (!widget) fail("Nothing has the focus.");
+    const auto searchOver = [this] {
+        return !typed_.isValid() || typed_.hasExpired(QApplication::keyboardInputInterval());
+    };
+    if (qobject_cast<QComboBox*>(widget)) waitFor(searchOver, "The end of the search before");
     QTest::keyClicks(widget, text);
+    typed_.start();
 }
 
 QString Guide::focus() const {

@@ -66,5 +66,6 @@ private:
     QPointer<QWidget> seen_;     ///< the dialog in front
     bool met_ = false;           ///< it was handed to its act
     QElapsedTimer standing_;
+    QElapsedTimer typed_;  ///< letters that follow too soon go on with the search for the ones before
     QTimer watch_;
 };
