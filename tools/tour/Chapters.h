@@ -1,0 +1,5 @@
+#pragma once
+
+#include "tour/Guide.h"
+
+// The tour's further chapters, one file each. A chapter begins and ends at the navigator.
