@@ -1,6 +1,8 @@
 #include "app/ScreenRegister.h"
 
+#include "league/frmFieldAvailability.h"
 #include "league/frmTeams.h"
+#include "ratings/frmRatings.h"
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
 #include "setup/frmOptions.h"
@@ -18,12 +20,14 @@ void registerScreens(Program& program) {
         const QString name = screen.name;
         screens.addScreen(name, [&program, name] { return std::make_unique<EmptyScreen>(program, name); });
     }
+    screens.addScreen("frmRatings", [&program] { return std::make_unique<frmRatings>(program); });
     screens.addScreen("frmRegister", [&program] { return std::make_unique<frmRegister>(program); });
     screens.addScreen("frmReports", [&program] { return std::make_unique<frmReports>(program); });
     screens.addScreen("frmSetup", [&program] { return std::make_unique<frmSetup>(program); });
     screens.addScreen("frmTeams", [&program] { return std::make_unique<frmTeams>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
+    screens.addForm("frmFieldAvailability", [] { return std::make_unique<frmFieldAvailability>(); });
     screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });
     screens.addForm("frmOptions.CustomFields",
                     [&program] { return std::make_unique<frmOptions>(program, frmOptions::Page::CustomFields); });

@@ -1,80 +1,63 @@
 #include "shell/RecordPane.h"
 
-#include <QLabel>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "platform/text/Collation.h"
 #include "platform/widgets/Form.h"
 #include "platform/widgets/FormLayout.h"
 #include "platform/widgets/SearchCombo.h"
-#include "shell/Icons.h"
 #include "shell/Program.h"
+#include "shell/SearchRow.h"
 
 RecordPane::RecordPane(Program& program, PaneText text) : program_(program), text_(std::move(text)) {}
 
-void RecordPane::start(RecordClass& record, Form* form) {
+void RecordPane::start(RecordClass& record, Form* form, QWidget* before) {
     record_ = &record;
     form_ = form;
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
     layout->setSpacing(spacing::group);
-    layout->addWidget(searchRow());
+    row_ = new SearchRow(text_.searchCaption, text_.searchName, text_.moveName, text_.searchCharacters, this);
+    auto* rows = new ColumnRow(this);
+    if (before) rows->addColumn(before, 0);
+    rows->addColumn(row_, 1);
+    layout->addWidget(rows);
     layout->addWidget(form_, 1);
+    connect(row_, &SearchRow::picked, this, &RecordPane::pick);
+    connect(row_, &SearchRow::stepped, this, [this](int index) {
+        Q_EMIT said({});
+        show(index);
+    });
+    connect(row_, &SearchRow::ended, this, &RecordPane::sayEnd);
     connect(form_, &Form::changed, this, &RecordPane::beginEditing);
     showFirst();
 }
 
 void RecordPane::showFirst() {
     readList();
-    show(search_->entryCount() > 0 ? 0 : -1);
+    show(search().entryCount() > 0 ? 0 : -1);
 }
 
-QWidget* RecordPane::searchRow() {
-    auto* row = new QWidget(this);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins({});
-    layout->setSpacing(spacing::label);
-    auto* caption = new QLabel(text_.searchCaption, row);
-    search_ = new SearchCombo(QString(text_.searchCaption).remove(u'&'), row);
-    search_->setObjectName(text_.searchName);
-    search_->setShownCharacters(text_.searchCharacters);
-    caption->setBuddy(search_);
-    layout->addWidget(caption);
-    layout->addWidget(search_);
-    connect(search_, &SearchCombo::picked, this, &RecordPane::pick);
-    const struct {
-        int code;
-        const char* icon;
-        QString tip;
-    } buttons[] = {{MoveFirst, "move-first", tr("First record")},
-                   {MovePrevious, "move-previous", tr("Previous record")},
-                   {MoveNext, "move-next", tr("Next record")},
-                   {MoveLast, "move-last", tr("Last record")}};
-    for (const auto& each : buttons) {
-        auto* button = new QToolButton(row);
-        button->setObjectName(text_.moveName + QString::number(moves_.size()));
-        button->setIcon(shellIcon(QLatin1String(each.icon)));
-        button->setToolTip(each.tip);
-        button->setAccessibleName(each.tip);
-        button->setAutoRaise(true);
-        connect(button, &QToolButton::clicked, this, [this, code = each.code] { move(code); });
-        layout->addWidget(button);
-        moves_.push_back(button);
-    }
-    layout->addStretch(1);
-    return row;
-}
+SearchCombo& RecordPane::search() const { return row_->list(); }
 
-void RecordPane::readList() {
+bool RecordPane::hasRecord() const { return search().currentIndex() >= 0; }
+
+std::vector<QString> RecordPane::readEntries() const {
     const datafile::Database database = program_.store.workspace.openDatabase(program_.store.dataFilePath);
-    seenChanges_ = database.changes();
     std::vector<QString> entries = database.readList(text_.listQuery, QStringLiteral("Name"));
     placeAccented(entries);
-    search_->setEntries(std::move(entries));
+    return entries;
 }
 
-bool RecordPane::canDelete() const { return !editing_ && search_->currentIndex() >= 0; }
+/// The reading itself may fill a work table.
+void RecordPane::readList() {
+    search().setEntries(readEntries());
+    noteChanges();
+}
+
+void RecordPane::noteChanges() {
+    seenChanges_ = program_.store.workspace.openDatabase(program_.store.dataFilePath).changes();
+}
 
 void RecordPane::beginEditing() {
     if (!form_->isLoading()) setEditing(true);
@@ -82,50 +65,37 @@ void RecordPane::beginEditing() {
 
 void RecordPane::setEditing(bool editing) {
     editing_ = editing;
-    search_->setEnabled(!editing);
-    for (QToolButton* button : moves_) button->setEnabled(!editing && search_->entryCount() > 0);
+    row_->setWaiting(editing);
     Q_EMIT stateChanged();
 }
 
 void RecordPane::focusSearch() {
-    if (search_->isEnabled()) search_->setFocus(Qt::TabFocusReason);
+    if (search().isEnabled()) search().setFocus(Qt::TabFocusReason);
 }
 
-void RecordPane::move(int code) {
-    if (search_->entryCount() == 0) return;
-    const int last = search_->entryCount() - 1;
-    const int current = search_->currentIndex();
-    Q_EMIT said({});
-    if (code == MoveFirst || code == MoveLast) {
-        record_->move(code);
-        return show(code == MoveFirst ? 0 : last);
-    }
-    if (code == MovePrevious && current <= 0)
-        Q_EMIT said(tr("First Record"));
-    else if (code == MoveNext && current >= last)
-        Q_EMIT said(tr("Last Record"));
-    else
-        show(current + (code == MoveNext ? 1 : -1));
+void RecordPane::sayEnd(bool first) {
+    const QString& own = first ? text_.atFirst : text_.atLast;
+    Q_EMIT said(!own.isEmpty() ? own : first ? tr("First Record") : tr("Last Record"));
 }
 
 void RecordPane::pick(int index) {
-    const QString wanted = search_->entryAt(index);
-    if (!offerToSave()) return search_->setCurrentIndex(search_->indexOf(shownEntry_));
+    const QString wanted = search().entryAt(index);
+    if (!offerToSave()) return search().setCurrentIndex(search().indexOf(shownEntry_));
     Q_EMIT said({});
-    show(search_->indexOf(wanted));
+    show(search().indexOf(wanted));
 }
 
 void RecordPane::show(int index) {
-    const QString wanted = search_->entryAt(index);
+    const QString wanted = search().entryAt(index);
     if (index >= 0 && !find(wanted)) {
         readList();
         Q_EMIT said(tr("Record \"%1\" is no longer there.").arg(wanted));
-        index = search_->entryCount() > 0 ? 0 : -1;
-        if (index >= 0 && !find(search_->entryAt(index))) index = -1;
+        index = search().entryCount() > 0 ? 0 : -1;
+        if (index >= 0 && !find(search().entryAt(index))) index = -1;
     }
     if (index < 0) return showBlank();
-    search_->setCurrentIndex(index);
-    shownEntry_ = search_->entryAt(index);
+    search().setCurrentIndex(index);
+    shownEntry_ = search().entryAt(index);
     form_->refresh();
     form_->setFieldsEnabled(true);
     shown();
@@ -133,7 +103,7 @@ void RecordPane::show(int index) {
 }
 
 void RecordPane::showBlank() {
-    search_->setCurrentIndex(-1);
+    search().setCurrentIndex(-1);
     shownEntry_.clear();
     record_->blank();
     record_->setDirty(false);
@@ -150,7 +120,7 @@ void RecordPane::addNew() {
 
 void RecordPane::beginNew(const std::function<void()>& blank) {
     Q_EMIT said({});
-    search_->setCurrentIndex(-1);
+    search().setCurrentIndex(-1);
     blank();
     form_->refresh();
     form_->setFieldsEnabled(true);
@@ -177,7 +147,7 @@ bool RecordPane::writeGuarded(const QString& title) {
 }
 
 bool RecordPane::save() {
-    if (!record_->isChanged()) {
+    if (!isChanged()) {
         setEditing(false);
         return true;
     }
@@ -193,7 +163,7 @@ bool RecordPane::save() {
     }
     const QString before = record_->isNew() ? QString() : shownEntry_;
     if (!writeGuarded(tr("The record was not saved"))) return false;
-    Q_EMIT said(tr("Record \"%1\" Saved.").arg(name()));
+    Q_EMIT said((text_.saved.isEmpty() ? tr("Record \"%1\" Saved.") : text_.saved).arg(name()));
     placeInList(before);
     return true;
 }
@@ -202,16 +172,16 @@ bool RecordPane::save() {
 void RecordPane::placeInList(const QString& before) {
     const QString saved = entry();
     const auto drop = [this](const QString& text) {
-        if (const int index = search_->indexOf(text); index >= 0) search_->removeEntry(index);
+        if (const int index = search().indexOf(text); index >= 0) search().removeEntry(index);
     };
     if (before != saved) {
-        if (!before.isEmpty() && !find(before)) drop(before);
-        drop(saved);  // written otherwise, or the record that this one went over
-        search_->insertEntry(saved, listLess);
+        if (!before.isEmpty() && (text_.namesRepeat || !find(before))) drop(before);
+        if (!text_.namesRepeat) drop(saved);  // written otherwise, or the record that this one went over
+        search().insertEntry(saved, listLess);
     }
     if (!find(saved)) program_.dialogs().warning(tr("Error!"), text_.missingText);
-    show(search_->indexOf(saved));
-    seenChanges_ = program_.store.workspace.openDatabase(program_.store.dataFilePath).changes();
+    show(search().indexOf(saved));
+    noteChanges();
 }
 
 /// Where the row itself is gone, the list says so when it is asked for it again.
@@ -227,7 +197,7 @@ void RecordPane::dropEdits() {
 void RecordPane::cancel() {
     dropEdits();
     Q_EMIT said({});
-    show(search_->indexOf(shownEntry_));
+    show(search().indexOf(shownEntry_));
     focusSearch();
 }
 
@@ -241,36 +211,35 @@ QString RecordPane::deleteQuestion() const {
 }
 
 void RecordPane::remove() {
-    const int index = search_->currentIndex();
-    if (index < 0 || !find(search_->entryAt(index)) || !mayDelete()) return;
+    const int index = search().currentIndex();
+    if (index < 0 || !find(search().entryAt(index)) || !mayDelete()) return;
     const QString deleted = deletedName();
     if (!program_.dialogs().ask(tr("Delete Confirmation"), deleteQuestion())) {
         Q_EMIT said(tr("Record \"%1\" NOT Deleted.").arg(deleted));
         return;
     }
     erase();
-    search_->removeEntry(index);
-    show(search_->entryCount() == 0 ? -1 : index > 0 ? index - 1 : 0);
+    search().removeEntry(index);
+    show(search().entryCount() == 0 ? -1 : index > 0 ? index - 1 : 0);
     Q_EMIT said(tr("Record \"%1\" Deleted.").arg(deleted));
 }
 
 /// After a new record that was not wanted there is none in view.
 bool RecordPane::offerToSave(const QString& question, const QString& title) {
-    if (!record_->isChanged()) return true;
+    if (!isChanged()) return true;
     if (program_.dialogs().ask(title.isEmpty() ? tr("Save Record?") : title,
                                question.isEmpty() ? tr("Save the current record?") : question))
         return save();
     const QString unsaved = unsavedName();
     const bool wasNew = record_->isNew();
     dropEdits();
-    show(wasNew ? -1 : search_->indexOf(shownEntry_));
+    show(wasNew ? -1 : search().indexOf(shownEntry_));
     Q_EMIT said(tr("Record \"%1\" NOT saved.").arg(unsaved));
     return true;
 }
 
 bool RecordPane::offerToSaveBeforeClosing() {
-    if (!record_->isChanged() || !program_.dialogs().ask(tr("Save Record?"), tr("Save the current record?")))
-        return true;
+    if (!isChanged() || !program_.dialogs().ask(tr("Save Record?"), tr("Save the current record?"))) return true;
     if (!check().empty()) return save();
     try {
         return write();
@@ -289,6 +258,6 @@ void RecordPane::catchUp() {
     const QString current = shownEntry_;
     readChoices();
     readList();
-    const int index = search_->indexOf(current);
-    show(index >= 0 ? index : search_->entryCount() > 0 ? 0 : -1);
+    const int index = search().indexOf(current);
+    show(index >= 0 ? index : search().entryCount() > 0 ? 0 : -1);
 }

@@ -6,9 +6,12 @@
 #include "store/RecordClass.h"
 
 class Form;
-class QToolButton;
 class SearchCombo;
+class SearchRow;
 struct Program;
+
+/// What a user does with the records of a pane.
+enum class PaneOrders { AddEditDelete, Edit, Look };
 
 /// What a pane says of itself; everything else about the screen protocol is the same for all.
 struct PaneText {
@@ -17,13 +20,20 @@ struct PaneText {
     QString searchName;         ///< object name of the search list
     QString searchCaption;      ///< with its access key: "Current &School"
     QString moveName;           ///< object name of the move buttons; their number follows
-    QString listQuery;          ///< its column Name is the list's text
-    QString checkTitle;         ///< of the box with what the entry lacks
-    QString missingText;        ///< says that the saved record is not in its list
+    QString listQuery{};        ///< its column Name is the list's text
+    QString checkTitle{};       ///< of the box with what the entry lacks
+    QString missingText{};      ///< says that the saved record is not in its list
     QString leaveQuestion{};    ///< asked when its tab is left with unsaved work; empty: as everywhere
     QString menu{};             ///< its group of the Data menu; empty: as the tab
     QString noun{};             ///< in that menu: "Player" makes "New Player"; empty: "Add New"
     int searchCharacters = 40;  ///< shown of the search list
+    PaneOrders orders = PaneOrders::AddEditDelete;
+    QString addButton{};       ///< object name of a button of its own to add; empty: the screen's
+    QString addCaption{};      ///< of that button
+    QString saved{};           ///< said after a save, %1 is the name; empty: Record "%1" Saved.
+    QString atFirst{};         ///< said where no record is before; empty: First Record
+    QString atLast{};          ///< the same behind the last one
+    bool namesRepeat = false;  ///< records of one name stand in the list side by side
 };
 
 /// One finding of a pane's check of its entries.
@@ -43,8 +53,11 @@ public:
 
     const PaneText& text() const { return text_; }
     bool isEditing() const { return editing_; }
-    bool canDelete() const;
-    virtual bool canAdd() const { return true; }
+    /// Whether there is something to save.
+    virtual bool isChanged() const { return record_->isChanged(); }
+    bool hasRecord() const;
+    bool canDelete() const { return !editing_ && hasRecord() && text_.orders == PaneOrders::AddEditDelete; }
+    virtual bool canAdd() const { return text_.orders == PaneOrders::AddEditDelete; }
 
     void addNew();
     /// False when the record stayed unsaved; the user has been told why.
@@ -69,18 +82,23 @@ Q_SIGNALS:
     void said(const QString& text);
 
 protected:
-    /// Reads the list, shows its first record and lays the pane out. The last call of the constructor.
-    void start(RecordClass& record, Form* form);
+    /// Reads the list, shows its first record and lays the pane out, with `before` ahead of the search list. The last
+    /// call of the constructor.
+    void start(RecordClass& record, Form* form, QWidget* before = nullptr);
 
     Program& program() const { return program_; }
     RecordClass& record() const { return *record_; }
     Form& form() { return *form_; }
-    SearchCombo& search() { return *search_; }
+    SearchCombo& search() const;
     /// Begins a new record that `blank` prepares.
     void beginNew(const std::function<void()>& blank);
     /// An edit of the user's that no field of the form makes.
     void beginEditing();
+    /// Says that there is no record before the first one, or behind the last one.
+    void sayEnd(bool first);
 
+    /// The entries of the search list in their order.
+    virtual std::vector<QString> readEntries() const;
     /// Finds the record of a list entry and loads it.
     virtual bool find(const QString& entry) = 0;
     /// What the status line calls the record.
@@ -109,13 +127,12 @@ protected:
     virtual void shown() {}
 
 private:
-    QWidget* searchRow();
-    void move(int code);
     void pick(int index);
     void show(int index);
     void showBlank();
     void setEditing(bool editing);
     void readList();
+    void noteChanges();
     void dropEdits();
     bool writeGuarded(const QString& title);
     void placeInList(const QString& before);
@@ -124,8 +141,7 @@ private:
     PaneText text_;
     RecordClass* record_ = nullptr;
     Form* form_ = nullptr;
-    SearchCombo* search_ = nullptr;
-    std::vector<QToolButton*> moves_;
+    SearchRow* row_ = nullptr;
     QString shownEntry_;
     qint64 seenChanges_ = -1;
     bool editing_ = false;

@@ -25,12 +25,12 @@ RecordScreen::RecordScreen(Program& program, const QString& name, QSize designSi
     auto* row = new QHBoxLayout(buttons_);
     row->setContentsMargins({});
     row->addStretch(1);
-    add_ = addButton(QStringLiteral("cmdAdd"), tr("Add &New"), &RecordPane::addNew);
-    save_ = addButton(QStringLiteral("cmdSave"), tr("&Save"), nullptr);
-    delete_ = addButton(QStringLiteral("cmdDelete"), tr("De&lete"), &RecordPane::remove);
-    cancel_ = addButton(QStringLiteral("cmdCancel"), tr("Can&cel"), &RecordPane::cancel);
-    refresh_ = addButton(QStringLiteral("cmdRefresh"), tr("&Refresh"), nullptr);
-    auto* close = addButton(QStringLiteral("cmdClose"), tr("Cl&ose"), nullptr);
+    add_ = makeButton(QStringLiteral("cmdAdd"), tr("Add &New"), &RecordPane::addNew);
+    save_ = makeButton(QStringLiteral("cmdSave"), tr("&Save"), nullptr);
+    delete_ = makeButton(QStringLiteral("cmdDelete"), tr("De&lete"), &RecordPane::remove);
+    cancel_ = makeButton(QStringLiteral("cmdCancel"), tr("Can&cel"), &RecordPane::cancel);
+    refresh_ = makeButton(QStringLiteral("cmdRefresh"), tr("&Refresh"), nullptr);
+    auto* close = makeButton(QStringLiteral("cmdClose"), tr("Cl&ose"), nullptr);
     connect(save_, &QPushButton::clicked, this, [this] {
         if (pane()) savePane(*pane());
     });
@@ -40,7 +40,7 @@ RecordScreen::RecordScreen(Program& program, const QString& name, QSize designSi
     connect(tabs_, &QTabWidget::currentChanged, this, &RecordScreen::changeTab);
 }
 
-QPushButton* RecordScreen::addButton(const QString& name, const QString& caption, void (RecordPane::*what)()) {
+QPushButton* RecordScreen::makeButton(const QString& name, const QString& caption, void (RecordPane::*what)()) {
     auto* button = new QPushButton(caption, buttons_);
     button->setObjectName(name);
     button->setAutoDefault(false);
@@ -57,7 +57,11 @@ void RecordScreen::addPane(RecordPane* added) { addPage(added->text().caption, a
 
 void RecordScreen::addPage(const QString& caption, QWidget* page, const std::vector<RecordPane*>& panes) {
     for (RecordPane* added : panes) {
-        addMenu(added, page);
+        const PaneText& text = added->text();
+        Entry& entry = entries_.emplace_back(Entry{added, page});
+        if (text.orders != PaneOrders::Look) addMenu(entry);
+        if (!text.addButton.isEmpty())
+            entry.addButton = addButton(text.addButton, text.addCaption, [added] { added->addNew(); });
         connect(added, &RecordPane::stateChanged, this, &RecordScreen::showState);
         connect(added, &RecordPane::said, this, &RecordScreen::UpdateStatusBar);
     }
@@ -66,35 +70,41 @@ void RecordScreen::addPage(const QString& caption, QWidget* page, const std::vec
 }
 
 /// The Data menu holds one submenu a pane; the same orders as the buttons.
-void RecordScreen::addMenu(RecordPane* added, QWidget* page) {
+void RecordScreen::addMenu(Entry& entry) {
+    RecordPane* added = entry.pane;
     const QString& tag = added->text().tag;
     const QString& noun = added->text().noun;
     QMenu* menu = dataMenu()->addMenu(added->text().menu.isEmpty() ? added->text().caption : added->text().menu);
-    menu->menuAction()->setObjectName(QStringLiteral("mnuData") + tag);
-    const auto entry = [&](const char* what, const QString& caption, auto run) {
-        QAction* action =
-            addEntry(menu, QStringLiteral("mnuData%1%2Record").arg(QLatin1String(what), tag), caption, run);
-        return action;
+    entry.menu = menu->menuAction();
+    entry.menu->setObjectName(QStringLiteral("mnuData") + tag);
+    const auto order = [&](const char* what, const QString& caption, auto run) {
+        return addEntry(menu, QStringLiteral("mnuData%1%2Record").arg(QLatin1String(what), tag), caption, run);
     };
-    entries_.push_back(
-        {added, page, menu->menuAction(),
-         entry("New", noun.isEmpty() ? tr("Add &New") : tr("&New %1").arg(noun), [added] { added->addNew(); }),
-         entry("Save", noun.isEmpty() ? tr("&Save") : tr("&Save %1").arg(noun), [added] { added->save(); }),
-         entry("Delete", noun.isEmpty() ? tr("De&lete") : tr("De&lete %1").arg(noun), [added] { added->remove(); }),
-         entry("Cancel", tr("Can&cel"), [added] { added->cancel(); })});
+    const bool all = added->text().orders == PaneOrders::AddEditDelete;
+    if (all)
+        entry.add =
+            order("New", noun.isEmpty() ? tr("Add &New") : tr("&New %1").arg(noun), [added] { added->addNew(); });
+    entry.save = order("Save", noun.isEmpty() ? tr("&Save") : tr("&Save %1").arg(noun), [added] { added->save(); });
+    if (all)
+        entry.remove =
+            order("Delete", noun.isEmpty() ? tr("De&lete") : tr("De&lete %1").arg(noun), [added] { added->remove(); });
+    entry.cancel = order("Cancel", tr("Can&cel"), [added] { added->cancel(); });
+}
+
+QPushButton* RecordScreen::addButton(const QString& name, const QString& caption, const std::function<void()>& press) {
+    auto* button = new QPushButton(caption, buttons_);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, press);
+    auto* row = static_cast<QHBoxLayout*>(buttons_->layout());
+    row->insertWidget(row->indexOf(add_) + 1, button);
+    QWidget::setTabOrder(add_, button);
+    return button;
 }
 
 void RecordScreen::addOrder(RecordPane* owner, const QString& name, const QString& caption, const QString& entry,
                             const std::function<void()>& run) {
-    QPushButton* button = nullptr;
-    if (!name.isEmpty()) {
-        button = new QPushButton(caption, buttons_);
-        button->setObjectName(name);
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, run);
-        auto* row = static_cast<QHBoxLayout*>(buttons_->layout());
-        row->insertWidget(row->indexOf(add_) + 1, button);
-    }
+    QPushButton* button = name.isEmpty() ? nullptr : addButton(name, caption, run);
     for (const Entry& each : entries_)
         if (each.pane == owner) orders_.push_back({owner, button, addEntry(each.menu->menu(), entry, caption, run)});
     showState();
@@ -140,33 +150,51 @@ void RecordScreen::changeTab(int index) {
 
 void RecordScreen::showState() {
     RecordPane* current = pane();
+    const bool saved = save_->hasFocus() && !(current && current->isEditing());
+    showButtons(current);
+    showMenus(current);
+    if (saved) focusSearch();  // else the focus would go on to Close
+}
+
+void RecordScreen::showButtons(RecordPane* current) {
     const bool editing = current && current->isEditing();
-    const bool canAdd = current && !editing && current->canAdd();
-    const bool canDelete = current && current->canDelete();
-    const bool saved = save_->hasFocus() && !editing;
-    const bool alone = !current || current == tabs_->currentWidget();
-    add_->setVisible(alone);
-    delete_->setVisible(alone);
-    add_->setEnabled(canAdd);
+    const PaneOrders orders = current ? current->text().orders : PaneOrders::Look;
+    const bool alone = current == tabs_->currentWidget();
+    add_->setVisible(alone && orders == PaneOrders::AddEditDelete && current->text().addButton.isEmpty());
+    delete_->setVisible(alone && orders == PaneOrders::AddEditDelete);
+    save_->setVisible(orders != PaneOrders::Look);
+    cancel_->setVisible(orders != PaneOrders::Look);
+    add_->setEnabled(current && !editing && current->canAdd());
     save_->setEnabled(editing);
-    delete_->setEnabled(canDelete);
+    delete_->setEnabled(current && current->canDelete());
     cancel_->setEnabled(editing);
     refresh_->setEnabled(current && !editing);
     for (const Order& order : orders_) {
         if (order.button) order.button->setVisible(order.pane == current);
-        if (order.button) order.button->setEnabled(order.pane == current && canDelete);
-        order.entry->setEnabled(order.pane == current && canDelete);
+        if (order.button) order.button->setEnabled(order.pane == current && current->canDelete());
+        order.entry->setEnabled(order.pane == current && current->canDelete());
     }
+    for (const Entry& entry : entries_) {
+        if (!entry.addButton) continue;
+        entry.addButton->setVisible(entry.pane == current);
+        entry.addButton->setEnabled(!editing && entry.pane->canAdd());
+    }
+}
+
+void RecordScreen::showMenus(const RecordPane* current) {
+    const bool editing = current && current->isEditing();
+    const auto enable = [](QAction* order, bool enabled) {
+        if (order) order->setEnabled(enabled);
+    };
     for (const Entry& entry : entries_) {
         const bool turn = editing ? entry.pane == current : entry.page == tabs_->currentWidget();
         entry.pane->setEnabled(turn || entry.page != tabs_->currentWidget());
-        entry.menu->setEnabled(turn);
-        entry.add->setEnabled(!editing && entry.pane->canAdd());
-        entry.save->setEnabled(editing);
-        entry.remove->setEnabled(!editing && entry.pane->canDelete());
-        entry.cancel->setEnabled(editing);
+        enable(entry.menu, turn);
+        enable(entry.add, !editing && entry.pane->canAdd());
+        enable(entry.save, editing);
+        enable(entry.remove, !editing && entry.pane->canDelete());
+        enable(entry.cancel, editing);
     }
-    if (saved) focusSearch();  // else the focus would go on to Close
 }
 
 bool RecordScreen::offerToSave() {

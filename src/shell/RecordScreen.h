@@ -34,10 +34,13 @@ protected:
     void addOrder(RecordPane* pane, const QString& button, const QString& caption, const QString& entry,
                   const std::function<void()>& run);
     QTabWidget& tabs() { return *tabs_; }
+    /// A further button behind Add New.
+    QPushButton* addButton(const QString& name, const QString& caption, const std::function<void()>& press);
 
 private:
-    QPushButton* addButton(const QString& name, const QString& caption, void (RecordPane::*press)());
-    void addMenu(RecordPane* pane, QWidget* page);
+    struct Entry;
+    QPushButton* makeButton(const QString& name, const QString& caption, void (RecordPane::*press)());
+    void addMenu(Entry& entry);
     RecordPane* paneOf(const QWidget* page) const;
     void refresh();
     void catchUp();
@@ -45,15 +48,19 @@ private:
     void showState();
     void press(void (RecordPane::*what)());
 
+    /// What serves one pane. An order that the pane does not have is null.
     struct Entry {
         RecordPane* pane;
         QWidget* page;  ///< the tab it is on: itself, or a page with others
-        QAction* menu;
-        QAction* add;
-        QAction* save;
-        QAction* remove;
-        QAction* cancel;
+        QPushButton* addButton = nullptr;
+        QAction* menu = nullptr;
+        QAction* add = nullptr;
+        QAction* save = nullptr;
+        QAction* remove = nullptr;
+        QAction* cancel = nullptr;
     };
+    void showButtons(RecordPane* current);
+    void showMenus(const RecordPane* current);
 
     QTabWidget* tabs_;
     QWidget* buttons_;
