@@ -6,6 +6,7 @@
 #include "store/RecordClass.h"
 
 class Form;
+class QVBoxLayout;
 class SearchCombo;
 class SearchRow;
 struct Program;
@@ -34,6 +35,7 @@ struct PaneText {
     QString atFirst{};         ///< said where no record is before; empty: First Record
     QString atLast{};          ///< the same behind the last one
     bool namesRepeat = false;  ///< records of one name stand in the list side by side
+    int leastFormHeight = 0;   ///< where the window is lower the whole pane scrolls; 0: the form does by itself
 };
 
 /// One finding of a pane's check of its entries.
@@ -127,6 +129,7 @@ protected:
     virtual void shown() {}
 
 private:
+    QVBoxLayout* makeLayout();
     void pick(int index);
     void show(int index);
     void showBlank();
