@@ -27,7 +27,8 @@ void registerScreens(Program& program) {
     screens.addScreen("frmTeams", [&program] { return std::make_unique<frmTeams>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
-    screens.addForm("frmFieldAvailability", [] { return std::make_unique<frmFieldAvailability>(); });
+    screens.addForm("frmFieldAvailability",
+                    [&program] { return std::make_unique<frmFieldAvailability>(program.clock().today()); });
     screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });
     screens.addForm("frmOptions.CustomFields",
                     [&program] { return std::make_unique<frmOptions>(program, frmOptions::Page::CustomFields); });

@@ -19,7 +19,8 @@ FieldAssignmentPane::FieldAssignmentPane(Program& program)
                            .moveName = "cmdFieldDivisionMove",
                            .listQuery = "SELECT *, ([DivName]) as Name FROM tblDivision WHERE [DeletedFlag] = False "
                                         "ORDER BY [DivName]",
-                           .orders = PaneOrders::Look}),
+                           .orders = PaneOrders::Look,
+                           .leastFormHeight = 240}),
       division_(program.store),
       field_(program.store),
       link_(program.store) {
