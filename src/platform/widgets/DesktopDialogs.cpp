@@ -7,6 +7,8 @@
 #include <QMessageBox>
 #include <QWindow>
 
+#include "platform/widgets/WaitCursor.h"
+
 namespace {
 
 QString pictureOf(BoxKind kind) {
@@ -59,6 +61,7 @@ QStringList nameFilters(const QString& filters) {
 }
 
 std::optional<QString> pickFile(const FileRequest& request, QFileDialog::AcceptMode mode) {
+    const UsualCursor cursor;
     QFileDialog dialog(QApplication::activeWindow(), request.title);
     dialog.setAcceptMode(mode);
     // Opening takes names that do not exist as well: what is missing is for the caller to say.
@@ -77,6 +80,7 @@ std::optional<QString> pickFile(const FileRequest& request, QFileDialog::AcceptM
 DesktopDialogs::DesktopDialogs() { Q_INIT_RESOURCE(message); }
 
 BoxAnswer DesktopDialogs::box(BoxKind kind, BoxButtons buttons, const QString& title, const QString& text) {
+    const UsualCursor cursor;
     const Buttons offered = buttonsOf(buttons);
     const bool destroys = buttons == BoxButtons::YesNo && title.contains(QStringLiteral("Delete"), Qt::CaseInsensitive);
     QMessageBox message(QMessageBox::NoIcon, title, text, offered.all, QApplication::activeWindow());
@@ -97,6 +101,7 @@ std::optional<QString> DesktopDialogs::saveFile(const FileRequest& request) {
 }
 
 int DesktopDialogs::showModal(QDialog& form) {
+    const UsualCursor cursor;
     if (const QWidget* window = QApplication::activeWindow(); window && !form.parentWidget()) {
         form.winId();  // makes the form's window, so that it can be told over which one it belongs
         form.windowHandle()->setTransientParent(window->windowHandle());

@@ -12,6 +12,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "platform/widgets/WaitCursor.h"
 #include "support/Printing.h"
 
 namespace {
@@ -50,6 +51,15 @@ TEST(DesktopDialogs, BoxesAnswerReturnAndEscape) {
         EXPECT_EQ(answerTo(Qt::Key_Return, it.buttons, it.title), it.onReturn) << it.title;
         EXPECT_EQ(answerTo(Qt::Key_Escape, it.buttons, it.title), it.onEscape) << it.title;
     }
+}
+
+TEST(DesktopDialogs, WorkThatAsksWaitsUnderTheUsualCursor) {
+    const WaitCursor work;
+    const WaitCursor withinIt;
+    whenShown<QMessageBox>([](QMessageBox&) { EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr); });
+    DesktopDialogs().box(BoxKind::Question, BoxButtons::YesNo, "Save Record?", "Text");
+    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
 }
 
 TEST(DesktopDialogs, BoxesShowWhatTheyAreGivenAsPlainText) {
