@@ -114,6 +114,15 @@ void Form::setCaption(const QString& name, const QString& caption) {
     field->editor->setAccessibleName(caption);
 }
 
+void Form::setInk(const QString& name, const QColor& ink) {
+    const Kept* field = find(name);
+    if (!field) return;
+    QPalette colours;
+    if (ink.isValid()) colours.setColor(QPalette::WindowText, ink);
+    field->editor->setPalette(colours);
+    if (field->caption) field->caption->setPalette(colours);
+}
+
 void Form::setDateFormat(const QString& format) {
     for (auto* box : findChildren<DateBox*>()) box->setFormat(format);
 }
