@@ -243,12 +243,13 @@ std::optional<PersonPane::Twin> PlayerPane::twin() const {
 
 void PlayerPane::addSibling() {
     if (player_.PlayerId == 0 || isEditing()) return;
-    beginNew([this] {
+    const auto blank = [this] {
         player_.NewSiblingPlayerRecord();
         player_.PlayerDivisionId = 0;
         player_.PlayerTeamId = 0;
         player_.PlayerBeltedPants = false;
         player_.PlayerMedicalForm = false;
         player_.SetIsPlayerDirty(false);
-    });
+    };
+    beginNew(blank, QStringLiteral("txtPlayerFirstName"));  // the first one to fill: the last name is the family's
 }

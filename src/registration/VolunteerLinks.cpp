@@ -101,6 +101,9 @@ QWidget* VolunteerLinks::playersGroup() {
     associated_->setUniformItemSizes(true);
     associated_->setSpacing(2);
     associated_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    constexpr int leastLines = 5;
+    associated_->setMinimumHeight(leastLines * associated_->fontMetrics().lineSpacing());
+    associated_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // it takes what the page has left
     addCaption(tr("Pla&yers Associated with this Volunteer"), associated_);
     connect(player_, &ChoiceBox::edited, this, &VolunteerLinks::choosePlayer);
     const auto take = [this](const QModelIndex& index) { choosePlayer(associatedNames_->entryAt(index.row())); };

@@ -53,6 +53,7 @@ frmVolInfo::frmVolInfo(Program& program, clsVolunteer& volunteer)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
     resize(760, 480);
+    form_->focusField(QStringLiteral("txtVolAddress1"));
 }
 
 void frmVolInfo::save() {

@@ -107,9 +107,10 @@ UniformPage::UniformPage(Program& program, const QString& checkTitle) {
     for (const GarmentText& text : garments) {
         auto* pane = new LookupPane<UniformSize>(program, lookupOf(text, checkTitle), text.garment);
         pane->layout()->setContentsMargins({});
+        pane->layout()->setSpacing(spacing::line);
         auto* lines = pane->findChild<QScrollArea*>();
         const auto* box = pane->findChild<QLineEdit*>(u"txt" + text.tag);
-        lines->setFixedHeight(box->sizeHint().height() + spacing::group);  // one line; the page scrolls instead
+        lines->setFixedHeight(box->sizeHint().height() + spacing::line);  // one line; the page scrolls instead
         addButtons(*pane, text.tag, text.title);
         auto* frame = new QGroupBox(text.title);
         (new QVBoxLayout(frame))->addWidget(pane);

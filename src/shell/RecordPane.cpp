@@ -149,10 +149,10 @@ void RecordPane::showBlank() {
 }
 
 void RecordPane::addNew() {
-    beginNew([this] { makeNew(); });
+    beginNew([this] { makeNew(); }, firstField());
 }
 
-void RecordPane::beginNew(const std::function<void()>& blank) {
+void RecordPane::beginNew(const std::function<void()>& blank, const QString& field) {
     const WaitCursor wait;
     Q_EMIT said({});
     search_->setCurrentIndex(-1);
@@ -161,7 +161,7 @@ void RecordPane::beginNew(const std::function<void()>& blank) {
     form_->setFieldsEnabled(true);
     shown();
     setEditing(true);
-    form_->focusField(firstField());
+    form_->focusField(field);
 }
 
 bool RecordPane::write() {

@@ -77,8 +77,8 @@ protected:
     RecordClass& record() const { return *record_; }
     Form& form() { return *form_; }
     SearchCombo& search() { return *search_; }
-    /// Begins a new record that `blank` prepares.
-    void beginNew(const std::function<void()>& blank);
+    /// Begins a new record that `blank` prepares, with the cursor in this box.
+    void beginNew(const std::function<void()>& blank, const QString& field);
     /// An edit of the user's that no field of the form makes.
     void beginEditing();
     /// For check(): the finding that another record has this one's name already, by which neither could be found.

@@ -5,7 +5,6 @@
 
 #include <QCheckBox>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -311,7 +310,7 @@ TEST_F(ParentsTest, ReminderComesForAChildWithoutParentsUntilItIsSilenced) {
         dialogs.expectForm("frmGuardianReminder", [silenced](QDialog& form) {
             EXPECT_EQ(form.windowTitle(), "Parent Reminder");
             if (silenced) control<QCheckBox>(&form, "chkDontShow")->click();
-            form.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+            press(&form, "cmdOK");
         });
     };
     enter("txtPlayerDadEmail", "dan@example.org");

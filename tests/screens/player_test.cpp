@@ -369,6 +369,7 @@ TEST_F(PlayerTest, SiblingKeepsTheFamilyAndTheFee) {
               {"dtpPlayerBirthDate", "4/2/2012"}};
     for (const auto& box : boxes) EXPECT_EQ(text(box.box), box.text) << box.box;
     EXPECT_FALSE(checked("chkPlayerMedicalForm"));
+    EXPECT_TRUE(control(screen, "txtPlayerFirstName")->hasFocus());
     type(screen, "txtPlayerFirstName", "Zoe");
     press(screen, "cmdSave");
     EXPECT_EQ(list(), (QStringList{annEntry, "Smith, Zoe - 4/2/2012", bobEntry}));

@@ -5,6 +5,7 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QScreen>
 #include <QWindow>
 
 #include "platform/widgets/WaitCursor.h"
@@ -102,7 +103,10 @@ std::optional<QString> DesktopDialogs::saveFile(const FileRequest& request) {
 
 int DesktopDialogs::showModal(QDialog& form) {
     const UsualCursor cursor;
-    if (const QWidget* window = QApplication::activeWindow(); window && !form.parentWidget()) {
+    const QWidget* window = QApplication::activeWindow();
+    if (form.testAttribute(Qt::WA_Resized))  // its buttons have to be in reach on a small screen too
+        form.resize(form.size().boundedTo((window ? window : &form)->screen()->availableSize()));
+    if (window && !form.parentWidget()) {
         form.winId();  // makes the form's window, so that it can be told over which one it belongs
         form.windowHandle()->setTransientParent(window->windowHandle());
     }

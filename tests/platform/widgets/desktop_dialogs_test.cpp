@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -50,6 +51,16 @@ TEST(DesktopDialogs, BoxesAnswerReturnAndEscape) {
     for (const Case& it : cases) {
         EXPECT_EQ(answerTo(Qt::Key_Return, it.buttons, it.title), it.onReturn) << it.title;
         EXPECT_EQ(answerTo(Qt::Key_Escape, it.buttons, it.title), it.onEscape) << it.title;
+    }
+}
+
+TEST(DesktopDialogs, FormKeepsItsSizeWithinTheScreen) {
+    const QSize room = QGuiApplication::primaryScreen()->availableSize();
+    for (const auto& [wanted, shown] : {std::pair(QSize(300, 200), QSize(300, 200)), std::pair(2 * room, room)}) {
+        QDialog form;
+        form.resize(wanted);
+        whenShown<QDialog>([&, size = shown](QDialog& seen) { EXPECT_EQ(seen.size(), size); });
+        DesktopDialogs().showModal(form);
     }
 }
 
