@@ -8,6 +8,7 @@
 #include "platform/widgets/Form.h"
 #include "platform/widgets/FormLayout.h"
 #include "platform/widgets/SearchCombo.h"
+#include "platform/widgets/WaitCursor.h"
 #include "shell/Icons.h"
 #include "shell/Program.h"
 
@@ -52,6 +53,7 @@ QWidget* RecordPane::searchRow() {
                    {MoveNext, "move-next", tr("Next record")},
                    {MoveLast, "move-last", tr("Last record")}};
     for (const auto& each : buttons) {
+        if (text_.stepsOnly && (each.code == MoveFirst || each.code == MoveLast)) continue;
         auto* button = new QToolButton(row);
         button->setObjectName(text_.moveName + QString::number(moves_.size()));
         button->setIcon(shellIcon(QLatin1String(each.icon)));
@@ -93,6 +95,7 @@ void RecordPane::focusSearch() {
 
 void RecordPane::move(int code) {
     if (search_->entryCount() == 0) return;
+    const WaitCursor wait;
     const int last = search_->entryCount() - 1;
     const int current = search_->currentIndex();
     Q_EMIT said({});
@@ -109,9 +112,10 @@ void RecordPane::move(int code) {
 }
 
 void RecordPane::pick(int index) {
+    const WaitCursor wait;
     const QString wanted = search_->entryAt(index);
-    if (!offerToSave()) return search_->setCurrentIndex(search_->indexOf(shownEntry_));
     Q_EMIT said({});
+    if (!offerToSave()) return search_->setCurrentIndex(search_->indexOf(shownEntry_));
     show(search_->indexOf(wanted));
 }
 
@@ -145,10 +149,11 @@ void RecordPane::showBlank() {
 }
 
 void RecordPane::addNew() {
-    beginNew([this] { makeNew(); });
+    beginNew([this] { makeNew(); }, firstField());
 }
 
-void RecordPane::beginNew(const std::function<void()>& blank) {
+void RecordPane::beginNew(const std::function<void()>& blank, const QString& field) {
+    const WaitCursor wait;
     Q_EMIT said({});
     search_->setCurrentIndex(-1);
     blank();
@@ -156,7 +161,7 @@ void RecordPane::beginNew(const std::function<void()>& blank) {
     form_->setFieldsEnabled(true);
     shown();
     setEditing(true);
-    form_->focusField(firstField());
+    form_->focusField(field);
 }
 
 bool RecordPane::write() {
@@ -176,11 +181,18 @@ bool RecordPane::writeGuarded(const QString& title) {
     return false;
 }
 
+std::vector<Finding> RecordPane::takenName() const {
+    if (!record_->isKeyTaken()) return {};
+    return {
+        {firstField(), tr("%1 already exists.\nDuplicates are not allowed.\nPlease enter another name.").arg(entry())}};
+}
+
 bool RecordPane::save() {
     if (!record_->isChanged()) {
         setEditing(false);
         return true;
     }
+    const WaitCursor wait;
     std::vector<Finding> findings = check();
     if (const QString unreadable = form_->unreadableField(); !unreadable.isEmpty())
         findings.push_back({unreadable, tr("The date cannot be read.")});
@@ -225,6 +237,7 @@ void RecordPane::dropEdits() {
 }
 
 void RecordPane::cancel() {
+    const WaitCursor wait;
     dropEdits();
     Q_EMIT said({});
     show(search_->indexOf(shownEntry_));
@@ -241,6 +254,7 @@ QString RecordPane::deleteQuestion() const {
 }
 
 void RecordPane::remove() {
+    const WaitCursor wait;
     const int index = search_->currentIndex();
     if (index < 0 || !find(search_->entryAt(index)) || !mayDelete()) return;
     const QString deleted = deletedName();

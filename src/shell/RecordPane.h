@@ -24,6 +24,7 @@ struct PaneText {
     QString menu{};             ///< its group of the Data menu; empty: as the tab
     QString noun{};             ///< in that menu: "Player" makes "New Player"; empty: "Add New"
     int searchCharacters = 40;  ///< shown of the search list
+    bool stepsOnly = false;     ///< without buttons for the first and the last record
 };
 
 /// One finding of a pane's check of its entries.
@@ -76,10 +77,12 @@ protected:
     RecordClass& record() const { return *record_; }
     Form& form() { return *form_; }
     SearchCombo& search() { return *search_; }
-    /// Begins a new record that `blank` prepares.
-    void beginNew(const std::function<void()>& blank);
+    /// Begins a new record that `blank` prepares, with the cursor in this box.
+    void beginNew(const std::function<void()>& blank, const QString& field);
     /// An edit of the user's that no field of the form makes.
     void beginEditing();
+    /// For check(): the finding that another record has this one's name already, by which neither could be found.
+    std::vector<Finding> takenName() const;
 
     /// Finds the record of a list entry and loads it.
     virtual bool find(const QString& entry) = 0;

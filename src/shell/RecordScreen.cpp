@@ -141,6 +141,7 @@ void RecordScreen::changeTab(int index) {
 void RecordScreen::showState() {
     RecordPane* current = pane();
     const bool editing = current && current->isEditing();
+    if (editing) edited_ = current;
     const bool canAdd = current && !editing && current->canAdd();
     const bool canDelete = current && current->canDelete();
     const bool saved = save_->hasFocus() && !editing;
@@ -166,7 +167,7 @@ void RecordScreen::showState() {
         entry.remove->setEnabled(!editing && entry.pane->canDelete());
         entry.cancel->setEnabled(editing);
     }
-    if (saved) focusSearch();  // else the focus would go on to Close
+    if (saved && edited_) edited_->focusSearch();  // else the focus would go on to Close
 }
 
 bool RecordScreen::offerToSave() {
