@@ -22,6 +22,7 @@ constexpr char visitorScoreField[] = "mskedVisitorTeamScore";
 constexpr char commentsField[] = "txtResultsComments";
 constexpr int scoreDigits = 4;  // any such number fits the column
 constexpr int timeCharacters = 8;
+constexpr int teamCharacters = 35;  // of the longest name
 
 QString timeText(QTime time) { return formatTime(time, QStringLiteral("hh:mm AMPM")); }
 
@@ -41,11 +42,11 @@ ResultsPane::ResultsPane(Program& program)
     auto* row = new QHBoxLayout(content);
     row->setContentsMargins({});
     row->setSpacing(spacing::group);
-    row->addWidget(form_, 2);
+    row->addWidget(form_, 1);
     auto* frame = new QGroupBox(tr("Games Played"));
     auto* inside = new QVBoxLayout(frame);
     inside->addWidget(grid_);
-    row->addWidget(frame, 3);
+    row->addWidget(frame, 2);
     place(content);
 }
 
@@ -60,7 +61,8 @@ Form* ResultsPane::makeForm() {
                        [this, name, id](const QString& text) {
                            entry_.*name = text;
                            entry_.*id = teams_.value(text);
-                       });
+                       },
+                       teamCharacters);
     };
     FormBuilder(form)
         .frame(tr("Game/Match"), 1)
@@ -86,14 +88,14 @@ Form* ResultsPane::makeForm() {
 }
 
 Grid* ResultsPane::makeGrid() {
-    const GridColumn score{.caption = tr("Score"), .characters = 5, .alignment = Qt::AlignRight};
+    const GridColumn score{.caption = tr("Score"), .characters = 5, .alignment = Qt::AlignHCenter};
     auto* grid = new Grid({{tr("Game Date"), 8},
                            {tr("Game Time"), 8},
                            {tr("Visitors Team"), 16},
                            score,
                            {tr("Home Team"), 16},
                            score,
-                           {tr("Comments"), 16}});
+                           {.caption = tr("Comments"), .characters = 16, .stretches = true}});
     grid->setObjectName("flxGridGamesPlayed");
     grid->setAccessibleName(tr("Games Played"));
     grid->setEmptyText(tr("No results were entered for the division yet."));

@@ -71,7 +71,12 @@ Grid* SchedulePane::makeGrid() {
                   {tr("Time"), 10, Cells::Text, FilterTime, 8},
                   {tr("Visitors Team"), 22, Cells::Choice, FilterTextWide, schedule_.ScheduleVisitorsTeam.size()},
                   {tr("Home Team"), 22, Cells::Choice, FilterTextWide, schedule_.ScheduleHomeTeam.size()},
-                  {tr("Field"), 22, Cells::Text, FilterTextWide, schedule_.ScheduleField.size()}});
+                  {.caption = tr("Field"),
+                   .characters = 22,
+                   .cells = Cells::Text,
+                   .filter = FilterTextWide,
+                   .maxLength = schedule_.ScheduleField.size(),
+                   .stretches = true}});
     grid->setObjectName("flxGridSchedule");
     grid->setAccessibleName(tr("Games of the division"));
     grid->textBox()->setObjectName("T1");
@@ -145,17 +150,22 @@ void SchedulePane::completeRow(int row, int column) {
 
 bool SchedulePane::ValidateSchedule() {
     QStringList lines;
-    int number = 0;
-    for (const GridRow& row : grid_->rows()) {
-        ++number;
-        if (!parseDate(row.cells.value(Date))) lines << tr("Row %1 - Invalid Game Date").arg(number);
-        if (!parseTime(row.cells.value(Time))) lines << tr("Row %1 - Invalid Game Time").arg(number);
+    std::optional<std::pair<int, int>> firstBad;
+    for (int row = 0; row < int(grid_->rows().size()); ++row) {
+        const auto note = [&](int column, const QString& text) {
+            lines << text.arg(row + 1);
+            if (!firstBad) firstBad = {row, column};
+        };
+        if (!parseDate(grid_->text(row, Date))) note(Date, tr("Row %1 - Invalid Game Date"));
+        if (!parseTime(grid_->text(row, Time))) note(Time, tr("Row %1 - Invalid Game Time"));
     }
-    if (lines.isEmpty()) return true;
+    if (!firstBad) return true;
     program().dialogs().warning(
         tr("Schedule Validation"),
         tr("Schedule cannot be saved, the following\nerrors were found while validating the schedule:") + "\n\n" +
             lines.join('\n'));
+    grid_->setCurrentCell(firstBad->first, firstBad->second);
+    grid_->setFocus();
     Q_EMIT said(tr("Schedule NOT Saved"));
     return false;
 }

@@ -36,8 +36,8 @@ private:
 
     clsSchedule schedule_;
     Grid* grid_;
+    QAction* deleteEntry_ = nullptr;  ///< of the row menu, whose making sets it
     QMenu* rowMenu_;
-    QAction* deleteEntry_ = nullptr;
     QString loadedDivision_;   ///< whose games stand in the grid
     bool wasEditing_ = false;  ///< when the current cell was entered
 };

@@ -17,15 +17,15 @@ StandingsPane::StandingsPane(Program& program)
 
 Grid* StandingsPane::makeGrid() {
     const auto number = [](const QString& caption) {
-        return GridColumn{.caption = caption, .characters = 8, .alignment = Qt::AlignRight};
+        return GridColumn{.caption = caption, .characters = 8, .alignment = Qt::AlignHCenter};
     };
     auto* grid = new Grid({number(tr("Rank")),
                            {tr("Team Name"), 30},
-                           {tr("SponsorName"), 30},
+                           {.caption = tr("SponsorName"), .characters = 30, .stretches = true},
                            number(tr("Wins")),
                            number(tr("Losses")),
                            number(tr("Ties")),
-                           number(tr("Win Percent"))});
+                           {.caption = tr("Win Percent"), .characters = 10, .alignment = Qt::AlignHCenter}});
     grid->setObjectName("flxGridStandings");
     grid->setAccessibleName(tr("Standings"));
     grid->setEmptyText(tr("No Records available for the division."));

@@ -4,7 +4,7 @@
 #include "schedule/SchedulePane.h"
 #include "schedule/StandingsPane.h"
 
-frmResults::frmResults(Program& program) : RecordScreen(program, QStringLiteral("frmResults"), {1100, 680}) {
+frmResults::frmResults(Program& program) : RecordScreen(program, QStringLiteral("frmResults"), {1200, 690}) {
     addPane(new SchedulePane(program));
     addPane(new ResultsPane(program));
     addPane(new StandingsPane(program));

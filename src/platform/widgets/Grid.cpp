@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int cellPadding = 12;  ///< around a text, in the width and in the height together
+constexpr int cellPadding = 16;  ///< around a text, in the width and in the height
 
 /// The colour of the open cell: pale yellow, or as much yellow as a dark base bears.
 QColor openColour(const QColor& base) {
@@ -46,15 +46,17 @@ Grid::Grid(std::vector<GridColumn> columns, QWidget* parent)
 void Grid::setUpHeaders() {
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(true);
     for (int column = 0; column < model_->columnCount(); ++column) {
         const GridColumn& about = model_->columns()[size_t(column)];
         const QFontMetrics metrics = fontMetrics();
         const int content = metrics.horizontalAdvance(u'0') * about.characters;
-        setColumnWidth(column, std::max(content, metrics.horizontalAdvance(about.caption)) + 2 * cellPadding);
+        setColumnWidth(column, std::max(content, metrics.horizontalAdvance(about.caption)) + cellPadding);
+        if (about.stretches) horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     }
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(std::max(choice_->sizeHint().height(), fontMetrics().height() + 8));
+    const int height = std::max(choice_->sizeHint().height(), fontMetrics().height() + cellPadding * 3 / 4);
+    verticalHeader()->setDefaultSectionSize(height);
+    horizontalHeader()->setFixedHeight(height);
     verticalHeader()->setHighlightSections(false);
     verticalHeader()->setVisible(!editable_.empty());
     verticalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -287,6 +289,17 @@ bool Grid::handleTextKey(const QKeyEvent& event) {
     }
 }
 
+/// A box selects its text when the focus comes; in a cell the caret stands at the end instead.
+bool Grid::takeFocus(QObject* editor, const QFocusEvent& event) {
+    const bool comesBack = event.reason() == Qt::ActiveWindowFocusReason || event.reason() == Qt::PopupFocusReason ||
+                           event.reason() == Qt::MenuBarFocusReason;
+    if (comesBack) return false;
+    QFocusEvent quiet(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(editor, &quiet);
+    putCaretAtEnd();
+    return true;
+}
+
 bool Grid::eventFilter(QObject* watched, QEvent* event) {
     if (!editor_ || (watched != editor_ && watched != choice_->lineEdit()))
         return QTableView::eventFilter(watched, event);
@@ -295,10 +308,7 @@ bool Grid::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::ContextMenu:
             askForMenu(currentIndex().row(), static_cast<QContextMenuEvent*>(event)->globalPos());
             return true;
-        case QEvent::FocusIn:
-            // The box selects all of its text next; here the caret stands at its end.
-            QMetaObject::invokeMethod(this, &Grid::putCaretAtEnd, Qt::QueuedConnection);
-            break;
+        case QEvent::FocusIn: return takeFocus(watched, *static_cast<QFocusEvent*>(event));
         case QEvent::FocusOut:
             if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) settle();
             break;

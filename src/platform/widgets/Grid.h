@@ -82,6 +82,7 @@ private:
     void putCaretAtEnd();
     void takeEdit(const QString& text);
     void restore();
+    bool takeFocus(QObject* editor, const QFocusEvent& event);
     bool handleKey(const QKeyEvent& event);
     bool handleTextKey(const QKeyEvent& event);
     bool goTo(int row, int column);

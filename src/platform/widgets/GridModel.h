@@ -15,6 +15,7 @@ struct GridColumn {
     KeyFilter filter{};  ///< of the keys that its cells take
     int maxLength = 0;   ///< 0: without limit
     Qt::Alignment alignment = Qt::AlignLeft;
+    bool stretches = false;  ///< takes the width that is left
 };
 
 struct GridRow {
