@@ -162,7 +162,7 @@ void Grid::currentChanged(const QModelIndex& current, const QModelIndex& previou
 /// Opens the cell. The focus goes into it when it was in the grid.
 void Grid::enter(const QModelIndex& index) {
     QWidget* before = editor_;
-    const bool focused = hasFocus() || (before && before->hasFocus());
+    const bool focused = holdsFocus();
     editor_ = editorOf(index);
     if (!editor_) return closeEditor();
     entered_ = text(index.row(), index.column());
@@ -176,13 +176,18 @@ void Grid::enter(const QModelIndex& index) {
     Q_EMIT cellEntered(index.row(), index.column());
 }
 
+/// Also while the window itself is not the active one.
+bool Grid::holdsFocus() const {
+    const QWidget* focus = window()->focusWidget();
+    return focus && (focus == this || isAncestorOf(focus));
+}
+
 void Grid::leave(const QModelIndex& index) {
     if (editor_ && index.isValid()) Q_EMIT cellLeft(index.row(), index.column());
 }
 
 void Grid::closeEditor() {
-    QWidget* before = editor_ ? editor_ : focusProxy();
-    const bool focused = before && before->hasFocus();
+    const bool focused = holdsFocus();
     editor_ = nullptr;
     setFocusProxy(nullptr);
     if (focused) setFocus(Qt::OtherFocusReason);

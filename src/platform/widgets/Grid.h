@@ -75,6 +75,7 @@ private:
     void colourEditors();
     QWidget* editorOf(const QModelIndex& index) const;
     void enter(const QModelIndex& index);
+    bool holdsFocus() const;
     void leave(const QModelIndex& index);
     void closeEditor();
     void fillEditor();
