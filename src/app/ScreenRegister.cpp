@@ -3,6 +3,7 @@
 #include "league/frmTeams.h"
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
+#include "schedule/frmResults.h"
 #include "setup/frmOptions.h"
 #include "setup/frmSetup.h"
 #include "shell/EmptyScreen.h"
@@ -20,6 +21,7 @@ void registerScreens(Program& program) {
     }
     screens.addScreen("frmRegister", [&program] { return std::make_unique<frmRegister>(program); });
     screens.addScreen("frmReports", [&program] { return std::make_unique<frmReports>(program); });
+    screens.addScreen("frmResults", [&program] { return std::make_unique<frmResults>(program); });
     screens.addScreen("frmSetup", [&program] { return std::make_unique<frmSetup>(program); });
     screens.addScreen("frmTeams", [&program] { return std::make_unique<frmTeams>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
