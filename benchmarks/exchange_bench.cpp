@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <cstdio>
 
 #include "Comparison.h"
 #include "RawFile.h"
@@ -6,7 +7,7 @@
 #include "platform/text/Dates.h"
 #include "schedule/SchedulerImport.h"
 
-// The import of a schedule beside the engine told to store the same games, cut at the commas and read the same way.
+// The import of a schedule beside the engine told to store the same games, cut at the commas.
 
 namespace {
 
@@ -38,15 +39,20 @@ void importByHand(const QString& path, const QByteArray& bytes) {
                         "INSERT INTO tblSchedule (Date, Day, Time, division, VisitorsTeam, HomeTeam, Field, DateStamp, "
                         "TimeStamp, DeletedFlag) VALUES (?, ?, ?, ?, ?, ?, ?, '2026-05-16', 43200, 0)");
     for (const QByteArray& line : bytes.split('\n')) {
-        const QStringList parts = QString::fromUtf8(line.trimmed()).split(u',');
+        const QByteArrayList parts = line.trimmed().split(',');
         if (parts.size() < 7) continue;
-        const QByteArray values[] = {parseDate(parts[0])->toString(Qt::ISODate).toUtf8(),
-                                     parts[1].toUtf8(),
-                                     parseTime(parts[2])->toString(u"HH:mm:ss").toUtf8(),
-                                     parts[3].toUtf8(),
-                                     parts[4].toUtf8(),
-                                     parts[5].toUtf8(),
-                                     parts[6].toUtf8()};
+        int month = 0;
+        int day = 0;
+        int year = 0;
+        int hour = 0;
+        int minute = 0;
+        std::sscanf(parts[0].constData(), "%d/%d/%d", &month, &day, &year);
+        std::sscanf(parts[2].constData(), "%d:%d", &hour, &minute);
+        char date[32];
+        char time[32];
+        std::snprintf(date, sizeof date, "%04d-%02d-%02d", year, month, day);
+        std::snprintf(time, sizeof time, "%02d:%02d:00", hour % 12 + 12, minute);
+        const QByteArray values[] = {date, parts[1], time, parts[3], parts[4], parts[5], parts[6]};
         for (int i = 0; i < 7; ++i) insert.bind(i + 1, values[i]);
         insert.step();
         insert.reset();
