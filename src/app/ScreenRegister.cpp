@@ -4,6 +4,8 @@
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
 #include "schedule/frmResults.h"
+#include "schedule/frmExport.h"
+#include "schedule/frmImport.h"
 #include "setup/frmOptions.h"
 #include "setup/frmSetup.h"
 #include "shell/EmptyScreen.h"
@@ -26,6 +28,8 @@ void registerScreens(Program& program) {
     screens.addScreen("frmTeams", [&program] { return std::make_unique<frmTeams>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
+    screens.addForm("frmExport", [&program] { return std::make_unique<frmExport>(program); });
+    screens.addForm("frmImport", [&program] { return std::make_unique<frmImport>(program); });
     screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });
     screens.addForm("frmOptions.CustomFields",
                     [&program] { return std::make_unique<frmOptions>(program, frmOptions::Page::CustomFields); });
