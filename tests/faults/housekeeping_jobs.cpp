@@ -62,6 +62,6 @@ void judgePurge(const Aftermath& aftermath) {
 }  // namespace
 
 QList<FaultJob> housekeepingJobs() {
-    return {{.name = "purge", .samples = 12, .prepare = prepare, .begin = FaultJob::step(purge), .judge = judgePurge},
-            {.name = "compact", .samples = 12, .prepare = prepare, .begin = FaultJob::step(CompactDataFile)}};
+    return {{.name = "purge", .samples = 8, .prepare = prepare, .begin = FaultJob::step(purge), .judge = judgePurge},
+            {.name = "compact", .samples = 8, .prepare = prepare, .begin = FaultJob::step(CompactDataFile)}};
 }

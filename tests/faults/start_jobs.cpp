@@ -40,7 +40,7 @@ FaultJob stepJob(const UpgradeStep& step) {
     const QString name = QString::fromLatin1(step.name);
     const int version = step.lastVersion;
     return {.name = name,
-            .samples = 3,
+            .samples = 2,
             .prepare = [version](const LeagueFolder& folder) { olderfile::make(folder.dataFile(), version); },
             .begin = FaultJob::step([name](StoreContext& context) {
                 for (const UpgradeStep& each : upgradeSteps())
@@ -92,7 +92,7 @@ void prepareCopy(const LeagueFolder& folder) {
 }  // namespace
 
 QList<FaultJob> startJobs() {
-    QList<FaultJob> jobs{{.name = "copy", .samples = 12, .prepare = prepareCopy, .begin = speaking(MakeSafetyCopy)}};
+    QList<FaultJob> jobs{{.name = "copy", .samples = 8, .prepare = prepareCopy, .begin = speaking(MakeSafetyCopy)}};
     for (const UpgradeStep& step : upgradeSteps()) jobs << stepJob(step);
     jobs << FaultJob{.name = "finish",
                      .samples = 6,
