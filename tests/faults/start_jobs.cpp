@@ -26,11 +26,12 @@ void expectNextStartToPass(const LeagueFolder& folder) {
     });
 }
 
-/// One start behind a step that is done but not yet told by the file's version is enough.
+/// Behind a step that is done but not yet told by the file's version one start is enough; the short form leaves that to
+/// the chain.
 std::function<void(const Aftermath&)> judgeStep() {
     return [started = std::make_shared<bool>(false)](const Aftermath& aftermath) {
         FaultJob::expectBeforeOrAfter(aftermath);
-        if (*started || aftermath.now[dataFile] != aftermath.after[dataFile]) return;
+        if (!isFullSweep() || *started || aftermath.now[dataFile] != aftermath.after[dataFile]) return;
         *started = true;
         expectNextStartToPass(aftermath.folder);
     };
