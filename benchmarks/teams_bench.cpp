@@ -122,8 +122,9 @@ void measureAssignments(Comparison& comparison, League& league) {
             QApplication::processEvents();
         });
     auto assign = std::make_shared<RawStatement>(
-        *raw, "UPDATE tblRegistration SET PlayerDivisionId = ?1, PlayerTeamId = ?2, PlayerAge = PlayerAge, DateStamp = "
-              "'2026-05-16', TimeStamp = 43200 WHERE PlayerId = 1");
+        *raw,
+        "UPDATE tblRegistration SET PlayerDivisionId = ?1, PlayerTeamId = ?2, PlayerAge = PlayerAge, DateStamp = "
+        "'2026-05-16', TimeStamp = 43200 WHERE PlayerId = 1");
     comparison.add(
         {"move a player to the team and back", league.size, {.times = 1.3}},
         [pool, team] {

@@ -5,6 +5,9 @@
 #include "ratings/frmRatings.h"
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
+#include "schedule/frmResults.h"
+#include "schedule/frmExport.h"
+#include "schedule/frmImport.h"
 #include "setup/frmOptions.h"
 #include "setup/frmSetup.h"
 #include "shell/EmptyScreen.h"
@@ -23,10 +26,13 @@ void registerScreens(Program& program) {
     screens.addScreen("frmRatings", [&program] { return std::make_unique<frmRatings>(program); });
     screens.addScreen("frmRegister", [&program] { return std::make_unique<frmRegister>(program); });
     screens.addScreen("frmReports", [&program] { return std::make_unique<frmReports>(program); });
+    screens.addScreen("frmResults", [&program] { return std::make_unique<frmResults>(program); });
     screens.addScreen("frmSetup", [&program] { return std::make_unique<frmSetup>(program); });
     screens.addScreen("frmTeams", [&program] { return std::make_unique<frmTeams>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
+    screens.addForm("frmExport", [&program] { return std::make_unique<frmExport>(program); });
+    screens.addForm("frmImport", [&program] { return std::make_unique<frmImport>(program); });
     screens.addForm("frmFieldAvailability",
                     [&program] { return std::make_unique<frmFieldAvailability>(program.clock().today()); });
     screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });

@@ -12,15 +12,16 @@
 #include "shell/Program.h"
 
 FieldAssignmentPane::FieldAssignmentPane(Program& program)
-    : RecordPane(program, {.tag = "FieldAssignment",
-                           .caption = tr("Field Assignments"),
-                           .searchName = "cboFieldDivisionList",
-                           .searchCaption = tr("C&urrent Division"),
-                           .moveName = "cmdFieldDivisionMove",
-                           .listQuery = "SELECT *, ([DivName]) as Name FROM tblDivision WHERE [DeletedFlag] = False "
-                                        "ORDER BY [DivName]",
-                           .orders = PaneOrders::Look,
-                           .leastFormHeight = 240}),
+    : RecordPane(program,
+                 {.tag = "FieldAssignment",
+                  .caption = tr("Field Assignments"),
+                  .searchName = "cboFieldDivisionList",
+                  .searchCaption = tr("C&urrent Division"),
+                  .moveName = "cmdFieldDivisionMove",
+                  .listQuery = "SELECT *, ([DivName]) as Name FROM tblDivision WHERE [DeletedFlag] = False "
+                               "ORDER BY [DivName]",
+                  .leastFormHeight = 240},
+                 Refresh),
       division_(program.store),
       field_(program.store),
       link_(program.store) {

@@ -37,19 +37,24 @@ TeamPane::TeamPane(Program& program)
     Form* form = buildForm();
     LoadTeamDataControls();
     start(team_, form, divisions_);
-    connect(this, &RecordPane::stateChanged, divisions_, [this] { divisions_->setWaiting(isEditing()); });
+    connect(this, &RecordPane::stateChanged, divisions_, [this] { divisions_->setLocked(isEditing()); });
     connect(staff_, &TeamStaff::edited, this, &TeamPane::beginEditing);
     connect(assignments_, &PlayerAssignments::said, this, &RecordPane::said);
     connect(form, &Form::tabPicked, this, &TeamPane::leaveSubTab);
-    divisions_->setWaiting(false);
+    divisions_->setLocked(false);
 }
 
 SearchRow* TeamPane::makeDivisionRow() {
-    auto* row = new SearchRow(tr("Divis&ion Name"), QStringLiteral("cboTeamDivisionName"),
-                              QStringLiteral("cmdTeamDivisionMove"), 22, this);
+    auto* row = new SearchRow({.tag = {},
+                               .caption = {},
+                               .searchName = "cboTeamDivisionName",
+                               .searchCaption = tr("Divis&ion Name"),
+                               .moveName = "cmdTeamDivisionMove",
+                               .searchCharacters = 22},
+                              this);
     connect(row, &SearchRow::picked, this, &TeamPane::changeDivision);
     connect(row, &SearchRow::stepped, this, &TeamPane::changeDivision);
-    connect(row, &SearchRow::ended, this, &TeamPane::sayEnd);
+    connect(row, &SearchRow::said, this, &TeamPane::said);
     return row;
 }
 

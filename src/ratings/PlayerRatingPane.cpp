@@ -17,8 +17,7 @@ PlayerRatingPane::PlayerRatingPane(Program& program)
            .listQuery = "SELECT *, ([PlayerLastName] & \", \" & [PlayerFirstName] & \" - \" & [PlayerBirthDate]) as "
                         "Name FROM tblRegistration WHERE [DeletedFlag] = False ORDER BY [PlayerLastName], "
                         "[PlayerFirstName], [PlayerBirthDate]",
-           .missingText = tr("Error!  Player Name not found in Search List"),
-           .orders = PaneOrders::Edit}) {
+           .missingText = tr("Error!  Player Name not found in Search List")}) {
     start(rating(), buildForm());
 }
 

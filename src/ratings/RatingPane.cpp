@@ -6,7 +6,7 @@
 #include "shell/Program.h"
 
 RatingPane::RatingPane(Program& program, PaneText text)
-    : RecordPane(program, std::move(text)), rating_(program.store), player_(program.store) {}
+    : RecordPane(program, std::move(text), Save | Cancel | Refresh), rating_(program.store), player_(program.store) {}
 
 datafile::Database RatingPane::database() const {
     return program().store.workspace.openDatabase(program().store.dataFilePath);

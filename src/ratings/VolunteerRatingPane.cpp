@@ -12,7 +12,6 @@ VolunteerRatingPane::VolunteerRatingPane(Program& program)
                            .searchCaption = tr("C&urrent Volunteer"),
                            .moveName = "cmdVolunteerMove",
                            .missingText = tr("Error!  Volunteer Name not found in Search List"),
-                           .orders = PaneOrders::Edit,
                            .atFirst = tr("First Volunteer Record"),
                            .atLast = tr("Last Volunteer Record")}),
       volunteer_(program.store) {

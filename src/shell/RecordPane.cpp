@@ -7,10 +7,11 @@
 #include "platform/widgets/Form.h"
 #include "platform/widgets/FormLayout.h"
 #include "platform/widgets/SearchCombo.h"
+#include "platform/widgets/WaitCursor.h"
 #include "shell/Program.h"
 #include "shell/SearchRow.h"
 
-RecordPane::RecordPane(Program& program, PaneText text) : program_(program), text_(std::move(text)) {}
+RecordPane::RecordPane(Program& program, PaneText text, Orders orders) : ScreenPane(program, std::move(text), orders) {}
 
 void RecordPane::start(RecordClass& record, Form* form, QWidget* before) {
     record_ = &record;
@@ -18,7 +19,8 @@ void RecordPane::start(RecordClass& record, Form* form, QWidget* before) {
     QVBoxLayout* layout = makeLayout();
     layout->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
     layout->setSpacing(spacing::group);
-    row_ = new SearchRow(text_.searchCaption, text_.searchName, text_.moveName, text_.searchCharacters, this);
+    row_ = new SearchRow(text(), this);
+    search_ = &row_->list();
     auto* rows = new ColumnRow(this);
     if (before) rows->addColumn(before, 0);
     rows->addColumn(row_, 1);
@@ -26,17 +28,17 @@ void RecordPane::start(RecordClass& record, Form* form, QWidget* before) {
     layout->addWidget(form_, 1);
     connect(row_, &SearchRow::picked, this, &RecordPane::pick);
     connect(row_, &SearchRow::stepped, this, [this](int index) {
-        Q_EMIT said({});
+        const WaitCursor wait;
         show(index);
     });
-    connect(row_, &SearchRow::ended, this, &RecordPane::sayEnd);
+    connect(row_, &SearchRow::said, this, &RecordPane::said);
     connect(form_, &Form::changed, this, &RecordPane::beginEditing);
     showFirst();
 }
 
 QVBoxLayout* RecordPane::makeLayout() {
-    if (text_.leastFormHeight == 0) return new QVBoxLayout(this);
-    form_->setMinimumHeight(text_.leastFormHeight);
+    if (text().leastFormHeight == 0) return new QVBoxLayout(this);
+    form_->setMinimumHeight(text().leastFormHeight);
     auto* outside = new QVBoxLayout(this);
     outside->setContentsMargins({});
     auto* content = new QWidget(this);
@@ -46,28 +48,24 @@ QVBoxLayout* RecordPane::makeLayout() {
 
 void RecordPane::showFirst() {
     readList();
-    show(search().entryCount() > 0 ? 0 : -1);
+    show(search_->entryCount() > 0 ? 0 : -1);
 }
 
-SearchCombo& RecordPane::search() const { return row_->list(); }
-
-bool RecordPane::hasRecord() const { return search().currentIndex() >= 0; }
+bool RecordPane::hasRecord() const { return search_->currentIndex() >= 0; }
 
 std::vector<QString> RecordPane::readEntries() const {
-    const datafile::Database database = program_.store.workspace.openDatabase(program_.store.dataFilePath);
-    std::vector<QString> entries = database.readList(text_.listQuery, QStringLiteral("Name"));
-    placeAccented(entries);
-    return entries;
+    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    return SearchRow::entries(database, text().listQuery);
 }
 
 /// The reading itself may fill a work table.
 void RecordPane::readList() {
-    search().setEntries(readEntries());
+    search_->setEntries(readEntries());
     noteChanges();
 }
 
 void RecordPane::noteChanges() {
-    seenChanges_ = program_.store.workspace.openDatabase(program_.store.dataFilePath).changes();
+    seenChanges_ = program().store.workspace.openDatabase(program().store.dataFilePath).changes();
 }
 
 void RecordPane::beginEditing() {
@@ -75,38 +73,33 @@ void RecordPane::beginEditing() {
 }
 
 void RecordPane::setEditing(bool editing) {
-    editing_ = editing;
-    row_->setWaiting(editing);
-    Q_EMIT stateChanged();
+    row_->setLocked(editing);
+    ScreenPane::setEditing(editing);
 }
 
 void RecordPane::focusSearch() {
-    if (search().isEnabled()) search().setFocus(Qt::TabFocusReason);
-}
-
-void RecordPane::sayEnd(bool first) {
-    const QString& own = first ? text_.atFirst : text_.atLast;
-    Q_EMIT said(!own.isEmpty() ? own : first ? tr("First Record") : tr("Last Record"));
+    if (search_->isEnabled()) search_->setFocus(Qt::TabFocusReason);
 }
 
 void RecordPane::pick(int index) {
-    const QString wanted = search().entryAt(index);
-    if (!offerToSave()) return search().setCurrentIndex(search().indexOf(shownEntry_));
+    const WaitCursor wait;
+    const QString wanted = search_->entryAt(index);
     Q_EMIT said({});
-    show(search().indexOf(wanted));
+    if (!offerToSave()) return search_->setCurrentIndex(search_->indexOf(shownEntry_));
+    show(search_->indexOf(wanted));
 }
 
 void RecordPane::show(int index) {
-    const QString wanted = search().entryAt(index);
+    const QString wanted = search_->entryAt(index);
     if (index >= 0 && !find(wanted)) {
         readList();
         Q_EMIT said(tr("Record \"%1\" is no longer there.").arg(wanted));
-        index = search().entryCount() > 0 ? 0 : -1;
-        if (index >= 0 && !find(search().entryAt(index))) index = -1;
+        index = search_->entryCount() > 0 ? 0 : -1;
+        if (index >= 0 && !find(search_->entryAt(index))) index = -1;
     }
     if (index < 0) return showBlank();
-    search().setCurrentIndex(index);
-    shownEntry_ = search().entryAt(index);
+    search_->setCurrentIndex(index);
+    shownEntry_ = search_->entryAt(index);
     form_->refresh();
     form_->setFieldsEnabled(true);
     shown();
@@ -114,7 +107,7 @@ void RecordPane::show(int index) {
 }
 
 void RecordPane::showBlank() {
-    search().setCurrentIndex(-1);
+    search_->setCurrentIndex(-1);
     shownEntry_.clear();
     record_->blank();
     record_->setDirty(false);
@@ -126,18 +119,19 @@ void RecordPane::showBlank() {
 }
 
 void RecordPane::addNew() {
-    beginNew([this] { makeNew(); });
+    beginNew([this] { makeNew(); }, firstField());
 }
 
-void RecordPane::beginNew(const std::function<void()>& blank) {
+void RecordPane::beginNew(const std::function<void()>& blank, const QString& field) {
+    const WaitCursor wait;
     Q_EMIT said({});
-    search().setCurrentIndex(-1);
+    search_->setCurrentIndex(-1);
     blank();
     form_->refresh();
     form_->setFieldsEnabled(true);
     shown();
     setEditing(true);
-    form_->focusField(firstField());
+    form_->focusField(field);
 }
 
 bool RecordPane::write() {
@@ -150,11 +144,17 @@ bool RecordPane::writeGuarded(const QString& title) {
     try {
         return write();
     } catch (const datafile::Error& error) {
-        program_.dialogs().error(title, error.text());
+        program().dialogs().error(title, error.text());
     } catch (const RecordError& error) {
-        program_.dialogs().error(title, error.text());
+        program().dialogs().error(title, error.text());
     }
     return false;
+}
+
+std::vector<Finding> RecordPane::takenName() const {
+    if (!record_->isKeyTaken()) return {};
+    return {
+        {firstField(), tr("%1 already exists.\nDuplicates are not allowed.\nPlease enter another name.").arg(entry())}};
 }
 
 bool RecordPane::save() {
@@ -162,19 +162,20 @@ bool RecordPane::save() {
         setEditing(false);
         return true;
     }
+    const WaitCursor wait;
     std::vector<Finding> findings = check();
     if (const QString unreadable = form_->unreadableField(); !unreadable.isEmpty())
         findings.push_back({unreadable, tr("The date cannot be read.")});
     if (!findings.empty()) {
         QStringList lines;
         for (const Finding& finding : findings) lines << finding.text;
-        program_.dialogs().warning(text_.checkTitle, lines.join(u'\n'));
+        program().dialogs().warning(text().checkTitle, lines.join(u'\n'));
         form_->focusField(findings.front().field);
         return false;
     }
     const QString before = record_->isNew() ? QString() : shownEntry_;
     if (!writeGuarded(tr("The record was not saved"))) return false;
-    Q_EMIT said((text_.saved.isEmpty() ? tr("Record \"%1\" Saved.") : text_.saved).arg(name()));
+    Q_EMIT said((text().saved.isEmpty() ? tr("Record \"%1\" Saved.") : text().saved).arg(name()));
     placeInList(before);
     return true;
 }
@@ -183,15 +184,15 @@ bool RecordPane::save() {
 void RecordPane::placeInList(const QString& before) {
     const QString saved = entry();
     const auto drop = [this](const QString& text) {
-        if (const int index = search().indexOf(text); index >= 0) search().removeEntry(index);
+        if (const int index = search_->indexOf(text); index >= 0) search_->removeEntry(index);
     };
     if (before != saved) {
-        if (!before.isEmpty() && (text_.namesRepeat || !find(before))) drop(before);
-        if (!text_.namesRepeat) drop(saved);  // written otherwise, or the record that this one went over
-        search().insertEntry(saved, listLess);
+        if (!before.isEmpty() && (text().namesRepeat || !find(before))) drop(before);
+        if (!text().namesRepeat) drop(saved);  // written otherwise, or the record that this one went over
+        search_->insertEntry(saved, listLess);
     }
-    if (!find(saved)) program_.dialogs().warning(tr("Error!"), text_.missingText);
-    show(search().indexOf(saved));
+    if (!find(saved)) program().dialogs().warning(tr("Error!"), text().missingText);
+    show(search_->indexOf(saved));
     noteChanges();
 }
 
@@ -206,9 +207,10 @@ void RecordPane::dropEdits() {
 }
 
 void RecordPane::cancel() {
+    const WaitCursor wait;
     dropEdits();
     Q_EMIT said({});
-    show(search().indexOf(shownEntry_));
+    show(search_->indexOf(shownEntry_));
     focusSearch();
 }
 
@@ -222,53 +224,54 @@ QString RecordPane::deleteQuestion() const {
 }
 
 void RecordPane::remove() {
-    const int index = search().currentIndex();
-    if (index < 0 || !find(search().entryAt(index)) || !mayDelete()) return;
+    const WaitCursor wait;
+    const int index = search_->currentIndex();
+    if (index < 0 || !find(search_->entryAt(index)) || !mayDelete()) return;
     const QString deleted = deletedName();
-    if (!program_.dialogs().ask(tr("Delete Confirmation"), deleteQuestion())) {
+    if (!program().dialogs().ask(tr("Delete Confirmation"), deleteQuestion())) {
         Q_EMIT said(tr("Record \"%1\" NOT Deleted.").arg(deleted));
         return;
     }
     erase();
-    search().removeEntry(index);
-    show(search().entryCount() == 0 ? -1 : index > 0 ? index - 1 : 0);
+    search_->removeEntry(index);
+    show(search_->entryCount() == 0 ? -1 : index > 0 ? index - 1 : 0);
     Q_EMIT said(tr("Record \"%1\" Deleted.").arg(deleted));
 }
 
 /// After a new record that was not wanted there is none in view.
 bool RecordPane::offerToSave(const QString& question, const QString& title) {
     if (!isChanged()) return true;
-    if (program_.dialogs().ask(title.isEmpty() ? tr("Save Record?") : title,
-                               question.isEmpty() ? tr("Save the current record?") : question))
+    if (program().dialogs().ask(title.isEmpty() ? tr("Save Record?") : title,
+                                question.isEmpty() ? tr("Save the current record?") : question))
         return save();
     const QString unsaved = unsavedName();
     const bool wasNew = record_->isNew();
     dropEdits();
-    show(wasNew ? -1 : search().indexOf(shownEntry_));
+    show(wasNew ? -1 : search_->indexOf(shownEntry_));
     Q_EMIT said(tr("Record \"%1\" NOT saved.").arg(unsaved));
     return true;
 }
 
 bool RecordPane::offerToSaveBeforeClosing() {
-    if (!isChanged() || !program_.dialogs().ask(tr("Save Record?"), tr("Save the current record?"))) return true;
+    if (!isChanged() || !program().dialogs().ask(tr("Save Record?"), tr("Save the current record?"))) return true;
     if (!check().empty()) return save();
     try {
         return write();
     } catch (const std::exception& error) {
-        program_.dialogs().error(tr("Save Record?"), tr("The following error occurred while attempting to save:") +
-                                                         u'\n' + QString::fromUtf8(error.what()));
+        program().dialogs().error(tr("Save Record?"), tr("The following error occurred while attempting to save:") +
+                                                          u'\n' + QString::fromUtf8(error.what()));
     }
-    return program_.dialogs().ask(tr("Save Record?"), tr("If you continue the current operation, \n"
-                                                         "changes to your data will be lost.\n"
-                                                         "Do you want to continue anyway?"));
+    return program().dialogs().ask(tr("Save Record?"), tr("If you continue the current operation, \n"
+                                                          "changes to your data will be lost.\n"
+                                                          "Do you want to continue anyway?"));
 }
 
 void RecordPane::catchUp() {
-    const datafile::Database database = program_.store.workspace.openDatabase(program_.store.dataFilePath);
-    if (editing_ || database.changes() == seenChanges_) return;
+    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    if (isEditing() || database.changes() == seenChanges_) return;
     const QString current = shownEntry_;
     readChoices();
     readList();
-    const int index = search().indexOf(current);
-    show(index >= 0 ? index : search().entryCount() > 0 ? 0 : -1);
+    const int index = search_->indexOf(current);
+    show(index >= 0 ? index : search_->entryCount() > 0 ? 0 : -1);
 }

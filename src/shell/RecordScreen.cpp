@@ -7,11 +7,12 @@
 #include <QVBoxLayout>
 
 #include "platform/widgets/FormLayout.h"
-#include "shell/RecordPane.h"
 
 namespace {
 
-void savePane(RecordPane& pane) { pane.save(); }
+void setPossible(QAction* entry, bool possible) {
+    if (entry) entry->setEnabled(possible);
+}
 
 }  // namespace
 
@@ -25,14 +26,14 @@ RecordScreen::RecordScreen(Program& program, const QString& name, QSize designSi
     auto* row = new QHBoxLayout(buttons_);
     row->setContentsMargins({});
     row->addStretch(1);
-    add_ = makeButton(QStringLiteral("cmdAdd"), tr("Add &New"), &RecordPane::addNew);
+    add_ = makeButton(QStringLiteral("cmdAdd"), tr("Add &New"), &ScreenPane::addNew);
     save_ = makeButton(QStringLiteral("cmdSave"), tr("&Save"), nullptr);
-    delete_ = makeButton(QStringLiteral("cmdDelete"), tr("De&lete"), &RecordPane::remove);
-    cancel_ = makeButton(QStringLiteral("cmdCancel"), tr("Can&cel"), &RecordPane::cancel);
+    delete_ = makeButton(QStringLiteral("cmdDelete"), tr("De&lete"), &ScreenPane::remove);
+    cancel_ = makeButton(QStringLiteral("cmdCancel"), tr("Can&cel"), &ScreenPane::cancel);
     refresh_ = makeButton(QStringLiteral("cmdRefresh"), tr("&Refresh"), nullptr);
     auto* close = makeButton(QStringLiteral("cmdClose"), tr("Cl&ose"), nullptr);
     connect(save_, &QPushButton::clicked, this, [this] {
-        if (pane()) savePane(*pane());
+        if (ScreenPane* current = pane()) current->save();
     });
     connect(refresh_, &QPushButton::clicked, this, &RecordScreen::refresh);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
@@ -40,7 +41,7 @@ RecordScreen::RecordScreen(Program& program, const QString& name, QSize designSi
     connect(tabs_, &QTabWidget::currentChanged, this, &RecordScreen::changeTab);
 }
 
-QPushButton* RecordScreen::makeButton(const QString& name, const QString& caption, void (RecordPane::*what)()) {
+QPushButton* RecordScreen::makeButton(const QString& name, const QString& caption, void (ScreenPane::*what)()) {
     auto* button = new QPushButton(caption, buttons_);
     button->setObjectName(name);
     button->setAutoDefault(false);
@@ -49,46 +50,45 @@ QPushButton* RecordScreen::makeButton(const QString& name, const QString& captio
     return button;
 }
 
-void RecordScreen::press(void (RecordPane::*what)()) {
-    if (RecordPane* current = pane()) (current->*what)();
+void RecordScreen::press(void (ScreenPane::*what)()) {
+    if (ScreenPane* current = pane()) (current->*what)();
 }
 
-void RecordScreen::addPane(RecordPane* added) { addPage(added->text().caption, added, {added}); }
+void RecordScreen::addPane(ScreenPane* added) { addPage(added->text().caption, added, {added}); }
 
-void RecordScreen::addPage(const QString& caption, QWidget* page, const std::vector<RecordPane*>& panes) {
-    for (RecordPane* added : panes) {
-        const PaneText& text = added->text();
-        Entry& entry = entries_.emplace_back(Entry{added, page});
-        if (text.orders != PaneOrders::Look) addMenu(entry);
-        if (!text.addButton.isEmpty())
-            entry.addButton = addButton(text.addButton, text.addCaption, [added] { added->addNew(); });
-        connect(added, &RecordPane::stateChanged, this, &RecordScreen::showState);
-        connect(added, &RecordPane::said, this, &RecordScreen::UpdateStatusBar);
+void RecordScreen::addPage(const QString& caption, QWidget* page, const std::vector<ScreenPane*>& panes) {
+    for (ScreenPane* added : panes) {
+        addMenu(added, page);
+        if (const PaneText& text = added->text(); !text.addButton.isEmpty())
+            entries_.back().addButton = addButton(text.addButton, text.addCaption, [added] { added->addNew(); });
+        connect(added, &ScreenPane::stateChanged, this, &RecordScreen::showState);
+        connect(added, &ScreenPane::said, this, &RecordScreen::UpdateStatusBar);
     }
     tabs_->addTab(page, caption);
     showState();
 }
 
 /// The Data menu holds one submenu a pane; the same orders as the buttons.
-void RecordScreen::addMenu(Entry& entry) {
-    RecordPane* added = entry.pane;
+void RecordScreen::addMenu(ScreenPane* added, QWidget* page) {
+    entries_.push_back({.pane = added, .page = page});
+    if (!(added->orders() & ~ScreenPane::Orders(ScreenPane::Refresh))) return;
     const QString& tag = added->text().tag;
     const QString& noun = added->text().noun;
     QMenu* menu = dataMenu()->addMenu(added->text().menu.isEmpty() ? added->text().caption : added->text().menu);
-    entry.menu = menu->menuAction();
-    entry.menu->setObjectName(QStringLiteral("mnuData") + tag);
-    const auto order = [&](const char* what, const QString& caption, auto run) {
+    menu->menuAction()->setObjectName(QStringLiteral("mnuData") + tag);
+    const auto entry = [&](ScreenPane::Order order, const char* what, const QString& caption, auto run) -> QAction* {
+        if (!added->orders().testFlag(order)) return nullptr;
         return addEntry(menu, QStringLiteral("mnuData%1%2Record").arg(QLatin1String(what), tag), caption, run);
     };
-    const bool all = added->text().orders == PaneOrders::AddEditDelete;
-    if (all)
-        entry.add =
-            order("New", noun.isEmpty() ? tr("Add &New") : tr("&New %1").arg(noun), [added] { added->addNew(); });
-    entry.save = order("Save", noun.isEmpty() ? tr("&Save") : tr("&Save %1").arg(noun), [added] { added->save(); });
-    if (all)
-        entry.remove =
-            order("Delete", noun.isEmpty() ? tr("De&lete") : tr("De&lete %1").arg(noun), [added] { added->remove(); });
-    entry.cancel = order("Cancel", tr("Can&cel"), [added] { added->cancel(); });
+    Entry& made = entries_.back();
+    made.menu = menu->menuAction();
+    made.add = entry(ScreenPane::AddNew, "New", noun.isEmpty() ? tr("Add &New") : tr("&New %1").arg(noun),
+                     [added] { added->addNew(); });
+    made.save = entry(ScreenPane::Save, "Save", noun.isEmpty() ? tr("&Save") : tr("&Save %1").arg(noun),
+                      [added] { added->save(); });
+    made.remove = entry(ScreenPane::Delete, "Delete", noun.isEmpty() ? tr("De&lete") : tr("De&lete %1").arg(noun),
+                        [added] { added->remove(); });
+    made.cancel = entry(ScreenPane::Cancel, "Cancel", tr("Can&cel"), [added] { added->cancel(); });
 }
 
 QPushButton* RecordScreen::addButton(const QString& name, const QString& caption, const std::function<void()>& press) {
@@ -102,7 +102,7 @@ QPushButton* RecordScreen::addButton(const QString& name, const QString& caption
     return button;
 }
 
-void RecordScreen::addOrder(RecordPane* owner, const QString& name, const QString& caption, const QString& entry,
+void RecordScreen::addOrder(ScreenPane* owner, const QString& name, const QString& caption, const QString& entry,
                             const std::function<void()>& run) {
     QPushButton* button = name.isEmpty() ? nullptr : addButton(name, caption, run);
     for (const Entry& each : entries_)
@@ -110,10 +110,10 @@ void RecordScreen::addOrder(RecordPane* owner, const QString& name, const QStrin
     showState();
 }
 
-RecordPane* RecordScreen::pane() const { return paneOf(tabs_->currentWidget()); }
+ScreenPane* RecordScreen::pane() const { return paneOf(tabs_->currentWidget()); }
 
-RecordPane* RecordScreen::paneOf(const QWidget* page) const {
-    RecordPane* first = nullptr;
+ScreenPane* RecordScreen::paneOf(const QWidget* page) const {
+    ScreenPane* first = nullptr;
     for (const Entry& entry : entries_) {
         if (entry.page != page) continue;
         if (entry.pane->isEditing()) return entry.pane;
@@ -136,43 +136,47 @@ void RecordScreen::catchUp() {
 /// Leaving a tab with unsaved work offers to save it; staying puts the tab back.
 void RecordScreen::changeTab(int index) {
     if (index == tab_) return;
-    RecordPane* left = paneOf(tabs_->widget(tab_));
+    ResetStatusBar();
+    ScreenPane* left = paneOf(tabs_->widget(tab_));
     if (left && !left->offerToSave(left->text().leaveQuestion)) {
         tabs_->setCurrentIndex(tab_);
         return;
     }
     tab_ = index;
-    ResetStatusBar();
     catchUp();
     showState();
     focusSearch();
 }
 
 void RecordScreen::showState() {
-    RecordPane* current = pane();
-    const bool saved = save_->hasFocus() && !(current && current->isEditing());
+    ScreenPane* current = pane();
+    const bool editing = current && current->isEditing();
+    if (editing) edited_ = current;
+    const bool saved = save_->hasFocus() && !editing;
     showButtons(current);
     showMenus(current);
-    if (saved) focusSearch();  // else the focus would go on to Close
+    if (saved && edited_) edited_->focusSearch();  // else the focus would go on to Close
 }
 
-void RecordScreen::showButtons(RecordPane* current) {
+void RecordScreen::showButtons(const ScreenPane* current) {
     const bool editing = current && current->isEditing();
-    const PaneOrders orders = current ? current->text().orders : PaneOrders::Look;
-    const bool alone = current == tabs_->currentWidget();
-    add_->setVisible(alone && orders == PaneOrders::AddEditDelete && current->text().addButton.isEmpty());
-    delete_->setVisible(alone && orders == PaneOrders::AddEditDelete);
-    save_->setVisible(orders != PaneOrders::Look);
-    cancel_->setVisible(orders != PaneOrders::Look);
+    const bool canDelete = current && current->canDelete();
+    const bool alone = !current || current == tabs_->currentWidget();
+    const auto knows = [current](ScreenPane::Order order) { return !current || current->orders().testFlag(order); };
+    add_->setVisible(alone && knows(ScreenPane::AddNew) && (!current || current->text().addButton.isEmpty()));
+    save_->setVisible(knows(ScreenPane::Save));
+    delete_->setVisible(alone && knows(ScreenPane::Delete));
+    cancel_->setVisible(knows(ScreenPane::Cancel));
+    refresh_->setVisible(knows(ScreenPane::Refresh));
     add_->setEnabled(current && !editing && current->canAdd());
     save_->setEnabled(editing);
-    delete_->setEnabled(current && current->canDelete());
+    delete_->setEnabled(canDelete);
     cancel_->setEnabled(editing);
     refresh_->setEnabled(current && !editing);
     for (const Order& order : orders_) {
         if (order.button) order.button->setVisible(order.pane == current);
-        if (order.button) order.button->setEnabled(order.pane == current && current->canDelete());
-        order.entry->setEnabled(order.pane == current && current->canDelete());
+        if (order.button) order.button->setEnabled(order.pane == current && canDelete);
+        order.entry->setEnabled(order.pane == current && canDelete);
     }
     for (const Entry& entry : entries_) {
         if (!entry.addButton) continue;
@@ -181,19 +185,16 @@ void RecordScreen::showButtons(RecordPane* current) {
     }
 }
 
-void RecordScreen::showMenus(const RecordPane* current) {
+void RecordScreen::showMenus(const ScreenPane* current) {
     const bool editing = current && current->isEditing();
-    const auto enable = [](QAction* order, bool enabled) {
-        if (order) order->setEnabled(enabled);
-    };
     for (const Entry& entry : entries_) {
         const bool turn = editing ? entry.pane == current : entry.page == tabs_->currentWidget();
         entry.pane->setEnabled(turn || entry.page != tabs_->currentWidget());
-        enable(entry.menu, turn);
-        enable(entry.add, !editing && entry.pane->canAdd());
-        enable(entry.save, editing);
-        enable(entry.remove, !editing && entry.pane->canDelete());
-        enable(entry.cancel, editing);
+        setPossible(entry.menu, turn);
+        setPossible(entry.add, !editing && entry.pane->canAdd());
+        setPossible(entry.save, editing);
+        setPossible(entry.remove, !editing && entry.pane->canDelete());
+        setPossible(entry.cancel, editing);
     }
 }
 
@@ -204,11 +205,11 @@ bool RecordScreen::offerToSave() {
 }
 
 void RecordScreen::focusSearch() {
-    if (RecordPane* current = pane()) current->focusSearch();
+    if (ScreenPane* current = pane()) current->focusSearch();
 }
 
 void RecordScreen::cameForward() { catchUp(); }
 
 void RecordScreen::undo() {
-    if (RecordPane* current = pane(); current && current->isEditing()) current->cancel();
+    if (ScreenPane* current = pane(); current && current->isEditing()) current->cancel();
 }

@@ -4,21 +4,24 @@
 #include <QLabel>
 #include <QToolButton>
 
+#include "platform/datafile/Database.h"
+#include "platform/text/Collation.h"
 #include "platform/widgets/FormLayout.h"
 #include "platform/widgets/SearchCombo.h"
 #include "shell/Icons.h"
+#include "shell/ScreenPane.h"
 #include "store/RecordClass.h"
 
-SearchRow::SearchRow(const QString& text, const QString& searchName, const QString& moveName, int shownCharacters,
-                     QWidget* parent)
-    : QWidget(parent), list_(new SearchCombo(QString(text).remove(u'&'), this)) {
+SearchRow::SearchRow(const PaneText& text, QWidget* parent)
+    : QWidget(parent), atFirst_(text.atFirst), atLast_(text.atLast) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(spacing::label);
-    auto* caption = new QLabel(text, this);
+    auto* caption = new QLabel(text.searchCaption, this);
+    list_ = new SearchCombo(QString(text.searchCaption).remove(u'&'), this);
+    list_->setObjectName(text.searchName);
+    list_->setShownCharacters(text.searchCharacters);
     caption->setBuddy(list_);
-    list_->setObjectName(searchName);
-    list_->setShownCharacters(shownCharacters);
     layout->addWidget(caption);
     layout->addWidget(list_);
     connect(list_, &SearchCombo::picked, this, &SearchRow::picked);
@@ -31,8 +34,10 @@ SearchRow::SearchRow(const QString& text, const QString& searchName, const QStri
                    {MoveNext, "move-next", tr("Next record")},
                    {MoveLast, "move-last", tr("Last record")}};
     for (const auto& each : buttons) {
+        if (text.moveName.isEmpty()) break;
+        if (text.stepsOnly && (each.code == MoveFirst || each.code == MoveLast)) continue;
         auto* button = new QToolButton(this);
-        button->setObjectName(moveName + QString::number(moves_.size()));
+        button->setObjectName(text.moveName + QString::number(moves_.size()));
         button->setIcon(shellIcon(QLatin1String(each.icon)));
         button->setToolTip(each.tip);
         button->setAccessibleName(each.tip);
@@ -44,19 +49,30 @@ SearchRow::SearchRow(const QString& text, const QString& searchName, const QStri
     layout->addStretch(1);
 }
 
-void SearchRow::setWaiting(bool waiting) {
-    list_->setEnabled(!waiting);
-    for (QToolButton* button : moves_) button->setEnabled(!waiting && list_->entryCount() > 0);
+std::vector<QString> SearchRow::entries(const datafile::Database& database, const QString& query) {
+    std::vector<QString> entries = database.readList(query, QStringLiteral("Name"));
+    placeAccented(entries);
+    return entries;
+}
+
+void SearchRow::read(const datafile::Database& database, const QString& query) {
+    list_->setEntries(entries(database, query));
+}
+
+void SearchRow::setLocked(bool locked) {
+    list_->setEnabled(!locked);
+    for (QToolButton* button : moves_) button->setEnabled(!locked && list_->entryCount() > 0);
 }
 
 void SearchRow::step(int code) {
-    if (list_->entryCount() == 0) return;
     const int last = list_->entryCount() - 1;
     const int current = list_->currentIndex();
-    switch (code) {
-        case MoveFirst: Q_EMIT stepped(0); break;
-        case MoveLast: Q_EMIT stepped(last); break;
-        case MovePrevious: current > 0 ? Q_EMIT stepped(current - 1) : Q_EMIT ended(true); break;
-        default: current < last ? Q_EMIT stepped(current + 1) : Q_EMIT ended(false); break;
-    }
+    if (last < 0) return;
+    Q_EMIT said({});
+    if (code == MovePrevious && current <= 0)
+        Q_EMIT said(atFirst_.isEmpty() ? tr("First Record") : atFirst_);
+    else if (code == MoveNext && current >= last)
+        Q_EMIT said(atLast_.isEmpty() ? tr("Last Record") : atLast_);
+    else
+        Q_EMIT stepped(code == MoveFirst ? 0 : code == MoveLast ? last : code == MoveNext ? current + 1 : current - 1);
 }

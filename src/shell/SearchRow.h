@@ -5,31 +5,39 @@
 
 class QToolButton;
 class SearchCombo;
+struct PaneText;
+namespace datafile {
+class Database;
+}
 
-/// A search list with its caption and the four buttons that step through it.
+/// The top row of a pane: the list in which its records are looked up, and four buttons that move along it.
 class SearchRow final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The caption holds its access key; the buttons are called `moveName` and their number.
-    SearchRow(const QString& caption, const QString& searchName, const QString& moveName, int shownCharacters,
-              QWidget* parent = nullptr);
+    SearchRow(const PaneText& text, QWidget* parent);
 
-    SearchCombo& list() const { return *list_; }
-    /// While they wait the user can neither search nor step.
-    void setWaiting(bool waiting);
+    SearchCombo& list() { return *list_; }
+    /// The column Name of a query's rows in the order of a list.
+    static std::vector<QString> entries(const datafile::Database& database, const QString& query);
+    /// Fills the list. Nothing is selected afterwards.
+    void read(const datafile::Database& database, const QString& query);
+    /// While the work on a record is unsaved, list and buttons wait.
+    void setLocked(bool locked);
 
 Q_SIGNALS:
     /// The user looked this entry up.
     void picked(int index);
     /// The user stepped to this entry.
     void stepped(int index);
-    /// The user wanted to step beyond the first entry, or beyond the last one.
-    void ended(bool first);
+    /// For the status line: that there is no entry further on.
+    void said(const QString& text);
 
 private:
     void step(int code);
 
+    QString atFirst_;
+    QString atLast_;
     SearchCombo* list_;
     std::vector<QToolButton*> moves_;
 };
