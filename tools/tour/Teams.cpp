@@ -1,6 +1,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QTest>
 
 #include "tour/Chapters.h"
 
