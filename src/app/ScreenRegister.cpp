@@ -33,7 +33,8 @@ void registerScreens(Program& program) {
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
     screens.addForm("frmExport", [&program] { return std::make_unique<frmExport>(program); });
     screens.addForm("frmImport", [&program] { return std::make_unique<frmImport>(program); });
-    screens.addForm("frmFieldAvailability", [] { return std::make_unique<frmFieldAvailability>(); });
+    screens.addForm("frmFieldAvailability",
+                    [&program] { return std::make_unique<frmFieldAvailability>(program.clock().today()); });
     screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });
     screens.addForm("frmOptions.CustomFields",
                     [&program] { return std::make_unique<frmOptions>(program, frmOptions::Page::CustomFields); });

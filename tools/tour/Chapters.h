@@ -3,3 +3,6 @@
 #include "tour/Guide.h"
 
 // The tour's further chapters, one file each. A chapter begins and ends at the navigator.
+
+/// A team with its staff and players, a field of its division, and the ratings of a player and of the coach.
+void visitTeams(Guide& guide);

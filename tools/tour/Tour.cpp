@@ -6,6 +6,8 @@
 #include <QListView>
 #include <QRadioButton>
 
+#include "tour/Chapters.h"
+
 namespace {
 
 /// A stop of the Tab key on the player form; an empty text leaves what stands there.
@@ -89,6 +91,11 @@ void Tour::take() {
     addSchool();
     previewList();
     saveList();
+    guide_.clickTool("btnStartUp");
+    guide_.waitForScreen("frmStartUp");
+    visitTeams(guide_);
+    guide_.click("cmdReports");
+    guide_.waitForScreen("frmReports");
     exit();
 }
 

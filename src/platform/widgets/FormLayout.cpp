@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QScrollArea>
 #include <algorithm>
 #include <numeric>
 
@@ -28,6 +29,17 @@ int fullWidthOf(const QWidget& column) {
 }
 
 }  // namespace
+
+QScrollArea* scrollArea(QWidget* content, QWidget* parent) {
+    auto* area = new QScrollArea(parent);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(content);
+    area->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    return area;
+}
 
 PairGrid::PairGrid(int pairs, QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)), pairs_(pairs) {
     grid_->setContentsMargins({});
