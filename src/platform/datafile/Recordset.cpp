@@ -400,29 +400,46 @@ void Recordset::update() {
     rowLoaded_ = false;
 }
 
+void Recordset::addRows(const QStringList& columns, const std::vector<Values>& rows) {
+    addNew();
+    mode_ = EditMode::None;
+    std::vector<const Field*> wanted;
+    for (const QString& column : columns) wanted.push_back(&fields_[static_cast<size_t>(field(column))]);
+    const QString text = insertSql(columns);
+    connection_->write([&] {
+        for (const Values& row : rows) {
+            Statement add(*connection_, text);
+            for (size_t i = 0; i < wanted.size(); ++i) add.bind(converted(row[i], wanted[i]->type, wanted[i]->name));
+            add.run();
+        }
+    });
+}
+
+QString Recordset::insertSql(const QStringList& columns) const {
+    const QString table = sql::identifier(query_.table);
+    if (columns.isEmpty()) return QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table);
+    QStringList names;
+    for (const QString& column : columns) names << sql::identifier(column);
+    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+        .arg(table, names.join(u','), QStringLiteral("?,").repeated(columns.size()).chopped(1));
+}
+
 void Recordset::writeRow() {
     QStringList names;
-    QStringList marks;
     Values values;
     for (auto& [field, value] : pending_) {
-        names << sql::identifier(fields_[static_cast<size_t>(field)].name);
-        marks << QStringLiteral("?");
+        names << fields_[static_cast<size_t>(field)].name;
         values.push_back(value);
     }
-    const QString table = sql::identifier(query_.table);
     if (mode_ == EditMode::Add) {
-        const QString text =
-            names.isEmpty()
-                ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table)
-                : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, names.join(u','), marks.join(u','));
-        Statement(*connection_, text).bind(values).run();
+        Statement(*connection_, insertSql(names)).bind(values).run();
         return;
     }
+    for (QString& name : names) name = sql::identifier(name);
     if (names.isEmpty()) return;
     const qint64 before = connection_->changes();
-    Statement write(
-        *connection_,
-        QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?").arg(table, names.join(QStringLiteral(" = ?, "))));
+    Statement write(*connection_, QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?")
+                                      .arg(sql::identifier(query_.table), names.join(QStringLiteral(" = ?, "))));
     write.bind(values).bind(Value{current_}).run();
     if (connection_->changes() == before) refuseRemoved();
 }
