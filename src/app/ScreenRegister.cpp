@@ -1,6 +1,7 @@
 #include "app/ScreenRegister.h"
 
 #include "league/frmFieldAvailability.h"
+#include "equipment/frmEquipment.h"
 #include "league/frmTeams.h"
 #include "ratings/frmRatings.h"
 #include "registration/frmRegister.h"
@@ -24,6 +25,7 @@ void registerScreens(Program& program) {
         screens.addScreen(name, [&program, name] { return std::make_unique<EmptyScreen>(program, name); });
     }
     screens.addScreen("frmRatings", [&program] { return std::make_unique<frmRatings>(program); });
+    screens.addScreen("frmEquipment", [&program] { return std::make_unique<frmEquipment>(program); });
     screens.addScreen("frmRegister", [&program] { return std::make_unique<frmRegister>(program); });
     screens.addScreen("frmReports", [&program] { return std::make_unique<frmReports>(program); });
     screens.addScreen("frmResults", [&program] { return std::make_unique<frmResults>(program); });
