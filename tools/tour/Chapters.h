@@ -6,3 +6,6 @@
 
 /// A team with its staff and players, a field of its division, and the ratings of a player and of the coach.
 void visitTeams(Guide& guide);
+
+/// An item of the equipment goes out to that team and comes back in part.
+void visitEquipment(Guide& guide);

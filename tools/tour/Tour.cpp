@@ -94,6 +94,7 @@ void Tour::take() {
     guide_.clickTool("btnStartUp");
     guide_.waitForScreen("frmStartUp");
     visitTeams(guide_);
+    visitEquipment(guide_);
     guide_.click("cmdReports");
     guide_.waitForScreen("frmReports");
     exit();
