@@ -25,6 +25,7 @@ QFont makeFont(const TextStyle& style) {
     QFont font(families(style.typeface));
     font.setPixelSize(std::max(1, qRound(style.points * unitsPerPoint)));
     font.setBold(style.bold);
+    font.setItalic(style.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setKerning(false);  // so that shaped lines and glyph runs are equally wide
     return font;

@@ -26,6 +26,7 @@ public:
     const QRawFont& rawFont() const { return rawFont_; }
     double ascent() const { return ascent_; }
     double descent() const { return descent_; }
+    double capHeight() const { return rawFont_.capHeight(); }
     double lineHeight() const { return ascent_ + descent_; }
 
 private:
