@@ -4,13 +4,14 @@
 #include <QTextLayout>
 #include <algorithm>
 
+#include "platform/report/BandRules.h"
+
 namespace report {
 
 namespace {
 
 constexpr double cellGap = 6 * unitsPerPoint;
 constexpr double indentStep = 18 * unitsPerPoint;
-constexpr double ruleThickness = 0.6 * unitsPerPoint;
 constexpr double frameInset = 3.5 * unitsPerPoint;   ///< from a frame to the text inside
 constexpr double labelGap = 3 * unitsPerPoint;       ///< between a label, a check box or a text and what follows it
 constexpr double writingSpace = 17 * unitsPerPoint;  ///< between rules to write on
@@ -167,15 +168,6 @@ void addText(Page& piece, QStringView text, double x, double baseline, quint8 fo
     piece.text += u' ';
 }
 
-/// The outline of an area.
-void addFrame(Page& piece, const QRectF& area) {
-    const QRectF inner = area.adjusted(ruleThickness, ruleThickness, -ruleThickness, -ruleThickness);
-    piece.rules.push_back({QRectF(area.topLeft(), QPointF(area.right(), inner.top())), Ink::Dark});
-    piece.rules.push_back({QRectF(QPointF(area.left(), inner.bottom()), area.bottomRight()), Ink::Dark});
-    piece.rules.push_back({QRectF(QPointF(area.left(), inner.top()), inner.bottomLeft()), Ink::Dark});
-    piece.rules.push_back({QRectF(inner.topRight(), QPointF(area.right(), inner.bottom())), Ink::Dark});
-}
-
 void addCheckBox(Page& piece, const Cell& cell, const MeasuredCell& measured, double baseline, FontBook& fonts,
                  double fontScale) {
     const double side = boxSide * fonts.face(measured.font).ascent();
@@ -201,7 +193,7 @@ double addWritingRules(Page& piece, const Cell& cell, const MeasuredCell& measur
         left = measured.left;
         if (rule + 1 < cell.fillIn) y += writingSpace;
     }
-    return y + ruleThickness;
+    return y + (cell.fillIn > 1 ? labelGap : ruleThickness);
 }
 
 /// Places the lines of a cell from `top` down and returns where they end.
@@ -221,62 +213,6 @@ double place(const Cell& cell, const MeasuredCell& measured, double top, Page& p
         top += line.ascent + line.descent;
     }
     return cell.fillIn == 0 ? top : std::max(top, addWritingRules(piece, cell, measured, baseline));
-}
-
-/// A rule over the width of the band, interrupted between reports that stand side by side.
-void addAcross(const Band& band, double left, double width, double y, double thickness, Page& piece) {
-    double shares = 0;
-    for (const Cell& cell : band.cells) shares += cell.share;
-    double start = left;
-    double at = left;
-    const auto end = [&](double right) {
-        if (right > start) piece.rules.push_back({QRectF(start, y, right - start, thickness), Ink::Dark});
-    };
-    for (const Cell& cell : band.cells) {
-        const double next = at + width * cell.share / shares;
-        if (cell.gap) {
-            end(at);
-            start = next;
-        }
-        at = next;
-    }
-    end(left + width);
-}
-
-void addRules(const Band& band, const Spacing& spacing, double left, double width, LaidBand& laid) {
-    const double before = spacing.before * unitsPerPoint;
-    Page& piece = laid.piece;
-    const QRectF area(left, before, width, laid.height - before);
-    if (band.shaded) piece.rules.insert(piece.rules.begin(), {area, Ink::Light});
-    if (band.kind == BandKind::ColumnHeads)
-        addAcross(band, left, width, laid.height - ruleThickness, ruleThickness, piece);
-    const bool totals = band.kind == BandKind::GroupFooter || band.kind == BandKind::Totals;
-    if (totals) addAcross(band, left, width, before, (band.kind == BandKind::Totals ? 2 : 1) * ruleThickness, piece);
-    if (band.above == Separation::Rule || band.edges & TopEdge)
-        piece.rules.push_back({QRectF(area.left(), area.top(), width, ruleThickness), Ink::Dark});
-    if (band.edges & BottomEdge)
-        piece.rules.push_back({QRectF(left, laid.height - ruleThickness, width, ruleThickness), Ink::Dark});
-    if (!(band.edges & SideEdges)) return;
-    piece.rules.push_back({QRectF(left, before, ruleThickness, area.height()), Ink::Dark});
-    piece.rules.push_back({QRectF(area.right() - ruleThickness, before, ruleThickness, area.height()), Ink::Dark});
-}
-
-/// The frames of single cells, as high as the band.
-void addCellFrames(const Band& band, const std::vector<MeasuredCell>& cells, double before, LaidBand& laid) {
-    for (size_t index = 0; index < cells.size(); ++index) {
-        QRectF frame = cells[index].frame;
-        if (frame.isNull()) continue;
-        if (band.cells[index].at) {
-            addFrame(laid.piece, frame.translated(0, before));
-        } else if (!(band.edges & CellEdges)) {
-            frame.setTop(before);
-            frame.setBottom(laid.height);
-            addFrame(laid.piece, frame);
-        } else if (index > 0) {
-            laid.piece.rules.push_back(
-                {QRectF(frame.left() - ruleThickness / 2, before, ruleThickness, laid.height - before), Ink::Dark});
-        }
-    }
 }
 
 }  // namespace
@@ -310,8 +246,10 @@ LaidBand layOut(const Band& band, double left, double width, FontBook& fonts, do
         if (cell.at) bottom = std::max(bottom, before + cell.at->bottom() * unitsPerPoint);
     }
     laid.height = std::max(least, bottom + spacing.below * unitsPerPoint);
-    addRules(band, spacing, left, width, laid);
-    addCellFrames(band, cells, before, laid);
+    const QRectF area(left, before, width, laid.height - before);
+    addBandRules(laid.piece, band, area);
+    for (size_t index = 0; index < cells.size(); ++index)
+        if (!cells[index].frame.isNull()) addCellFrame(laid.piece, band, index, cells[index].frame, area);
     return laid;
 }
 

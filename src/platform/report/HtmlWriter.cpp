@@ -11,7 +11,7 @@ namespace report {
 namespace {
 
 constexpr char styles[] =
-    "body{margin:24pt auto;max-width:60em;padding:0 12pt;color:#000;background:#fff}\n"
+    "body{margin:24pt auto;padding:0 12pt;color:#000;background:#fff}\n"
     "header{text-align:center;position:relative;margin-bottom:8pt}\n"
     "h1{font-size:175%;margin:0 0 4pt}\n"
     "header p{margin:0;font-weight:bold;font-size:130%}\n"
@@ -87,7 +87,8 @@ public:
              << "</title>\n<style>\n@page{size:" << (size.id() == QPageSize::A4 ? "A4 " : "letter ")
              << (definition.landscape ? "landscape" : "portrait")
              << ";margin:0.5in}\nbody{font-family:" << familyList(definition.typeface)
-             << ";font-size:" << QByteArray::number(definition.points) << "pt}\n"
+             << ";font-size:" << QByteArray::number(definition.points)
+             << "pt;max-width:" << QByteArray::number(paper.paintRect(QPageLayout::Point).width()) << "pt}\n"
              << styles << "</style>\n</head>\n<body>\n";
     }
 

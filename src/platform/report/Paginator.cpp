@@ -9,6 +9,7 @@ namespace {
 
 constexpr double footHeight = 22 * unitsPerPoint;
 constexpr double smallestLabelText = 0.5;
+constexpr double labelLinesCloser = 3 * unitsPerPoint;  ///< than the rows of a list
 
 QRectF inUnits(const QRectF& points) {
     return {points.x() * unitsPerPoint, points.y() * unitsPerPoint, points.width() * unitsPerPoint,
@@ -172,7 +173,7 @@ void Paginator::placeLabel() {
         used = 0;
         for (const Band& band : block_) {
             laid.push_back(layOut(band, 0, (sheet.width - 2 * sheet.inset) * unitsPerPoint, fonts_, scale));
-            used += laid.back().height;
+            used += laid.back().height - labelLinesCloser;
         }
         if (used <= height) break;
     }
@@ -185,7 +186,7 @@ void Paginator::placeLabel() {
     for (LaidBand& band : laid) {
         for (TextItem& item : band.piece.items) item.x += float(x);
         append(current_, band.piece, y);
-        y += band.height;
+        y += band.height - labelLinesCloser;
     }
     ++slot_;
 }

@@ -11,22 +11,9 @@ namespace report {
 
 namespace {
 
-constexpr Money one{100};
 constexpr double gapShare = 0.03;  ///< of the width of a row, between rows that stand side by side
 
 QString tr(const char* text) { return QCoreApplication::translate("report", text); }
-
-Alignment alignmentOf(const Column& column) {
-    if (column.alignment) return *column.alignment;
-    const Format format = column.field.format;
-    return format == Format::Money || format == Format::Number ? Alignment::Right : Alignment::Left;
-}
-
-QString totalText(const Column& column, Money sum) {
-    if (column.total == Total::Sum && column.field.format == Format::Money) return sum.text();
-    if (column.total == Total::Sum && !column.field.pattern.isEmpty()) return sum.text(column.field.pattern);
-    return sum.text(sum.cents % one.cents == 0 ? QStringLiteral("0") : QStringLiteral("0.00"));
-}
 
 bool sameKey(const QVariant& left, const QVariant& right) {
     if (left.typeId() == QMetaType::QString && right.typeId() == QMetaType::QString)
@@ -44,6 +31,7 @@ ReportFiller::ReportFiller(std::shared_ptr<const ReportDefinition> definition, R
     : definition_(std::move(definition)),
       open_(std::move(rows)),
       place_(std::move(place)),
+      totals_(definition_->columns, definition_->groups.size()),
       detailLevel_(place_.level + 2 * int(definition_->groups.size()) + 1),
       source_(openRows()) {
     bind();
@@ -73,9 +61,6 @@ void ReportFiller::bind() {
     for (const Group& group : definition_->groups)
         groups_.push_back(GroupState{BoundField(column(group.key), *source_), bound(group.header), bound(group.lines),
                                      bound(group.parts), bound(group.footerParts)});
-    hasTotals_ = std::any_of(definition_->columns.begin(), definition_->columns.end(),
-                             [](const Column& column) { return column.total != Total::None; });
-    sums_.assign(groups_.size() + 1, Sums(definition_->columns.size()));
 }
 
 ReportFiller::BoundLine ReportFiller::bound(const Line& line) const {
@@ -143,7 +128,7 @@ void ReportFiller::close() {
     if (!definition_->totals) return;
     QVariant value;
     addTotals(BandKind::Totals, place_.level, BoundField(*definition_->totals, *source_).evaluate(*source_, value),
-              sums_.back());
+              groups_.size());
 }
 
 /// The outermost group whose key differs from the row before, or the number of groups.
@@ -256,21 +241,11 @@ void ReportFiller::addDetail() {
     if (!columns_.cells.empty()) {
         Band& band = add(BandKind::Detail, detailLevel_);
         addCells(band, columns_, false);
-        if (hasTotals_) addToSums(band, 0);
+        totals_.add(band, 0);
     }
     addLines(lines_, detailLevel_);
     for (size_t index = start; index < ready_.size(); ++index) ready_[index].keepWithPrevious = index > start;
     if (start < ready_.size()) ready_[start].above = separation();
-}
-
-void ReportFiller::addToSums(const Band& band, size_t firstCell) {
-    for (size_t index = 0; index < columns_.cells.size(); ++index) {
-        const Total total = columns_.cells[index].column->total;
-        if (total == Total::None) continue;
-        const QVariant& value = band.cells[firstCell + index].value;
-        const Money amount = total == Total::Count ? one : Money::orZero(value.toString());
-        for (Sums& sums : sums_) sums[index] += amount;
-    }
 }
 
 /// Puts the rows that follow in the same group beside the one that the band holds.
@@ -282,7 +257,7 @@ void ReportFiller::addRowsAcross(size_t band) {
         const bool goesOn = onRow_ && firstChangedGroup() == groups_.size();
         if (goesOn) {
             addCells(ready_[band], columns_, false);
-            if (hasTotals_) addToSums(ready_[band], start);
+            totals_.add(ready_[band], start);
             onRow_ = source_->next();
         } else {
             for (const Column& column : definition_->columns) cells.push_back({.share = column.share});
@@ -355,41 +330,15 @@ void ReportFiller::addFooters(size_t fromGroup) {
     for (size_t group = groups_.size(); group-- > fromGroup;) {
         addParts(groups_[group].footerParts);
         if (definition_->groups[group].footer)
-            addTotals(BandKind::GroupFooter, detailLevel_, groups_[group].footer, sums_[group]);
-        std::fill(sums_[group].begin(), sums_[group].end(), Money{});
+            addTotals(BandKind::GroupFooter, detailLevel_, groups_[group].footer, group);
+        totals_.clear(group);
     }
 }
 
-/// The caption spans the columns before the first total; a total in the first column follows its caption.
-void ReportFiller::addTotals(BandKind kind, int level, const QString& caption, const Sums& sums) {
+void ReportFiller::addTotals(BandKind kind, int level, const QString& caption, size_t group) {
     Band& band = add(kind, level);
     band.keepWithPrevious = true;
-    Cell lead{.text = caption, .share = 0, .columns = 0, .style = style(true)};
-    bool inLead = true;
-    for (size_t index = 0; index < columns_.cells.size(); ++index) {
-        const Column& column = *columns_.cells[index].column;
-        const bool hasTotal = column.total != Total::None;
-        if (inLead && (!hasTotal || index == 0)) {
-            lead.share += column.share;
-            ++lead.columns;
-            if (hasTotal) lead.text += QString(u' ' % totalText(column, sums[index]));
-            continue;
-        }
-        if (inLead) band.cells.push_back(lead);
-        inLead = false;
-        Cell& cell = band.cells.emplace_back();
-        cell.alignment = alignmentOf(column);
-        cell.share = column.share;
-        cell.style = style(true, column.larger);
-        if (!hasTotal) continue;
-        cell.format = column.field.format;
-        cell.value = double(sums[index].cents) / one.cents;
-        cell.text = totalText(column, sums[index]);
-    }
-    if (inLead) {
-        lead.share = std::max(lead.share, 1.0);
-        band.cells.push_back(lead);
-    }
+    totals_.fill(band, group, caption, style(true));
 }
 
 }  // namespace report

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/report/BandQueue.h"
-#include "platform/text/Money.h"
+#include "platform/report/Totals.h"
 
 namespace report {
 
@@ -49,7 +49,6 @@ private:
         QVariant value{};
         QString footer{};  ///< its caption, taken from the group's first row
     };
-    using Sums = std::vector<Money>;  ///< one a column; counts are whole dollars
 
     ReportFiller(std::shared_ptr<const ReportDefinition> definition, RowSourceFactory rows, Place place);
     std::unique_ptr<RowSource> openRows() const;
@@ -68,11 +67,10 @@ private:
     void addColumnHeads();
     void addDetail();
     void addRowsAcross(size_t band);
-    void addToSums(const Band& band, size_t firstCell);
     void takeValues(BoundParts& parts) const;
     void addParts(const BoundParts& parts);
     void addFooters(size_t fromGroup);
-    void addTotals(BandKind kind, int level, const QString& caption, const Sums& sums);
+    void addTotals(BandKind kind, int level, const QString& caption, size_t group);
     Band& add(BandKind kind, int level);
     void addCells(Band& band, const BoundLine& line, bool bold, double larger = 0) const;
     void fillCell(Cell& cell, const BoundColumn& column, bool bold, double larger) const;
@@ -84,15 +82,14 @@ private:
     std::shared_ptr<const ReportDefinition> definition_;
     RowSourceFactory open_;
     Place place_;
+    Totals totals_;  ///< of the groups, and of the whole report as one more group
     int detailLevel_;
     std::unique_ptr<RowSource> source_;
     std::vector<GroupState> groups_;
     BoundLine columns_;
     std::vector<BoundLine> lines_;
     BoundParts parts_;
-    std::vector<Sums> sums_;  ///< group after group, the whole report last
     BandQueue ready_;
-    bool hasTotals_ = false;
     bool hasRows_ = false;
     bool onRow_ = false;  ///< the source stands on a row that is still to be filled
     bool firstRow_ = true;

@@ -1,6 +1,5 @@
 #include "platform/report/XlsRecords.h"
 
-#include <QDate>
 #include <QtEndian>
 #include <algorithm>
 #include <cstring>

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QDate>
 #include <QHash>
 #include <QIODevice>
-#include <QVariant>
+#include <optional>
+#include <vector>
 
 namespace report {
 

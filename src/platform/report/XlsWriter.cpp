@@ -7,9 +7,7 @@
 #include "platform/report/BandWriter.h"
 #include "platform/report/CompoundFile.h"
 #include "platform/report/FontBook.h"
-#include "platform/report/XlsRecords.h"
-#include "platform/text/Money.h"
-#include "platform/text/Numbers.h"
+#include "platform/report/XlsLooks.h"
 
 namespace report {
 
@@ -17,74 +15,6 @@ namespace {
 
 constexpr int mostRows = 65536;
 constexpr int mostColumns = 256;
-constexpr int firstCellFormat = 15;  ///< those before it belong to styles
-
-enum FontNumber { Plain, Bold, Large, Italic };
-enum NumberFormatNumber { General = 0, Whole = 1, TwoPlaces = 2, AsText = 49, MoneyFormat = 164 };
-
-/// The number formats that are not built in, from MoneyFormat on.
-constexpr const char* numberFormats[] = {"$#,##0.00;($#,##0.00)", "m/d/yyyy", "h:mm AM/PM", "0.0", "0.000", "0.0000"};
-constexpr int dateFormat = MoneyFormat + 1;
-constexpr int timeFormat = MoneyFormat + 2;
-
-/// By the digits behind the point of a number as it is printed.
-int formatForPlaces(const QString& text) {
-    constexpr int formats[] = {Whole, MoneyFormat + 3, TwoPlaces, MoneyFormat + 4, MoneyFormat + 5};
-    const qsizetype point = text.indexOf(u'.');
-    const qsizetype places = point < 0 ? 0 : text.size() - point - 1;
-    return places < qsizetype(std::size(formats)) ? formats[places] : General;
-}
-
-/// The look of a cell.
-struct CellLook {
-    int font = Plain;
-    int numberFormat = AsText;
-    int alignment = 0;  ///< as the file counts: 1 left, 2 center, 3 right
-    bool shaded = false;
-    bool ruleAbove = false;
-    bool ruleBelow = false;
-    bool operator==(const CellLook&) const = default;
-};
-
-struct Number {
-    double value;
-    int format;
-};
-
-bool isNumber(const QVariant& value) {
-    const int type = value.typeId();
-    return type == QMetaType::Double || type == QMetaType::Int || type == QMetaType::LongLong;
-}
-
-/// The number behind a cell's text, if the whole text is one.
-std::optional<Number> numberIn(const Cell& cell) {
-    if (!cell.label.isEmpty() || cell.text.isEmpty()) return std::nullopt;
-    switch (cell.format) {
-        case Format::Money:
-            if (const auto amount = Money::parse(cell.text)) return Number{double(amount->cents) / 100, MoneyFormat};
-            return std::nullopt;
-        case Format::Date: {
-            const auto date = cell.text == formatted(cell.value, Format::Date) ? dateOf(cell.value) : std::nullopt;
-            const auto serial = date ? serialOf(*date) : std::nullopt;
-            return serial ? std::optional(Number{*serial, dateFormat}) : std::nullopt;
-        }
-        case Format::Time: {
-            const auto time = cell.text == formatted(cell.value, Format::Time) ? timeOf(cell.value) : std::nullopt;
-            return time ? std::optional(Number{time->msecsSinceStartOfDay() / 86400e3, timeFormat}) : std::nullopt;
-        }
-        case Format::Number: break;
-        default:  // numbers of the data file; codes and phones are texts there
-            if (!isNumber(cell.value)) return std::nullopt;
-    }
-    const auto shown = Decimal::parse(cell.text);
-    if (!shown) return std::nullopt;
-    return Number{shown->toDouble(), formatForPlaces(cell.text)};
-}
-
-QString textOf(const Cell& cell) {
-    return cell.label.isEmpty() ? cell.plainText() : QString(cell.label % u' ' % cell.plainText());
-}
-
 /// A file for what does not fit into memory; what fails is raised.
 class Spool {
 public:
@@ -167,7 +97,7 @@ private:
         for (const Cell& cell : band.cells) {
             if (cell.text.isEmpty()) continue;
             const bool title = band.cells.size() > 1 && cell.alignment == Alignment::Center;
-            addText(0, cell.text, {title ? Large : cell.style.bold ? Bold : Plain, AsText, 1});
+            addText(0, cell.text, {title ? CellLook::Large : cell.style.bold ? CellLook::Bold : CellLook::Plain});
             endRow();
         }
     }
@@ -178,17 +108,18 @@ private:
         for (const Cell& cell : band.cells) {
             if (column >= mostColumns) break;
             CellLook look;
-            look.font = cell.style.bold ? Bold : cell.style.italic ? Italic : Plain;
-            look.alignment = cell.alignment == Alignment::Left ? 1 : cell.alignment == Alignment::Center ? 2 : 3;
+            look.font = cell.style.bold ? CellLook::Bold : cell.style.italic ? CellLook::Italic : CellLook::Plain;
+            look.alignment = cell.alignment;
             look.shaded = band.shaded;
             look.ruleAbove = totals;
             look.ruleBelow = band.kind == BandKind::ColumnHeads;
             if (const auto number = numberIn(cell)) {
                 look.numberFormat = number->format;
                 addNumber(column, number->value, look);
-            } else {
-                const QString text = textOf(cell);
-                if (!text.isEmpty()) addText(column, text, look);
+            } else if (!cell.label.isEmpty()) {
+                addText(column, cell.label % u' ' % cell.plainText(), look);
+            } else if (!cell.text.isEmpty()) {
+                addText(column, cell.plainText(), look);
             }
             column += std::max(1, cell.columns);
         }
@@ -198,13 +129,13 @@ private:
 
     void addText(int column, const QString& text, const CellLook& look) {
         XlsRecords record(block_);
-        record.begin(XlsRecords::TextCell).u16(row_).u16(column).u16(formatNumberOf(look));
+        record.begin(XlsRecords::TextCell).u16(row_).u16(column).u16(looks_.numberOf(look));
         record.u32(texts_.numberOf(text)).end();
     }
 
     void addNumber(int column, double value, const CellLook& look) {
         XlsRecords record(block_);
-        record.begin(XlsRecords::NumberCell).u16(row_).u16(column).u16(formatNumberOf(look)).real(value).end();
+        record.begin(XlsRecords::NumberCell).u16(row_).u16(column).u16(looks_.numberOf(look)).real(value).end();
     }
 
     /// A sheet that is full goes on in a further one, under the same heads.
@@ -235,12 +166,6 @@ private:
         sheets_.back().rows = row_;
     }
 
-    int formatNumberOf(const CellLook& look) {
-        auto found = std::find(looks_.begin(), looks_.end(), look);
-        if (found == looks_.end()) found = looks_.insert(looks_.end(), look);
-        return firstCellFormat + 1 + int(found - looks_.begin());
-    }
-
     static QByteArray endRecord() {
         QByteArray bytes;
         XlsRecords(bytes).begin(XlsRecords::Eof).end();
@@ -261,42 +186,10 @@ private:
         record.begin(XlsRecords::Window1).u16(0).u16(0).u16(0x4000).u16(0x2800).u16(0x38).u16(0).u16(0).u16(1);
         record.u16(600).end();
         record.begin(XlsRecords::DateMode).u16(0).end();
-        for (const int font : {Plain, Bold, Large, Italic}) addFont(record, font);
-        for (size_t index = 0; index < std::size(numberFormats); ++index)
-            record.begin(XlsRecords::NumberFormat)
-                .u16(MoneyFormat + int(index))
-                .text(QString::fromLatin1(numberFormats[index]))
-                .end();
-        for (int index = 0; index < firstCellFormat; ++index) addStyleFormat(record, 0xfff5);
-        addStyleFormat(record, 1);
-        for (const CellLook& look : looks_) addCellFormat(record, look);
-        record.begin(XlsRecords::CellStyle).u16(0x8000).u8(0).u8(0xff).end();
+        looks_.write(record, families(definition_.typeface).first());
         for (size_t index = 0; index < sheets_.size(); ++index)
             record.begin(XlsRecords::SheetPlace).u32(sheets_[index].place).u16(0).text(sheetName(index), true).end();
         return bytes;
-    }
-
-    void addFont(XlsRecords& record, int font) const {
-        const int twips = font == Large ? 280 : 200;
-        const bool bold = font == Bold || font == Large;
-        record.begin(XlsRecords::Font).u16(twips).u16(font == Italic ? 2 : 0).u16(0x7fff).u16(bold ? 700 : 400);
-        record.u16(0).u8(0).u8(0).u8(0).u8(0).text(families(definition_.typeface).first(), true).end();
-    }
-
-    static void addStyleFormat(XlsRecords& record, int flags) {
-        record.begin(XlsRecords::CellFormat).u16(0).u16(General).u16(flags).u8(0x20).u8(0).u8(0).u8(0);
-        record.u32(0).u32(0).u16(0x20c0).end();
-    }
-
-    static void addCellFormat(XlsRecords& record, const CellLook& look) {
-        constexpr int thin = 1;
-        constexpr int gray = 22;
-        constexpr int automatic = 64;
-        const int borders = (look.ruleAbove ? thin << 8 : 0) | (look.ruleBelow ? thin << 12 : 0);
-        const qint64 colors = qint64(automatic) | qint64(automatic) << 7 | (look.shaded ? qint64(1) << 26 : 0);
-        record.begin(XlsRecords::CellFormat).u16(look.font).u16(look.numberFormat).u16(1).u8(0x20 | look.alignment);
-        record.u8(0).u8(0).u8(0xfc).u32(borders).u32(colors);
-        record.u16((look.shaded ? gray : automatic) | (automatic + 1) << 7).end();
     }
 
     QString sheetName(size_t index) const {
@@ -342,7 +235,7 @@ private:
                 const Column& column = columns[size_t(index)];
                 width = std::clamp(column.share / shares * total, double(column.caption.size()) + 2, 80.0);
             }
-            record.begin(XlsRecords::ColumnInfo).u16(index).u16(index).u16(int(width * 256)).u16(firstCellFormat);
+            record.begin(XlsRecords::ColumnInfo).u16(index).u16(index).u16(int(width * 256)).u16(XlsLooks::usual);
             record.u16(0).u16(0).end();
         }
     }
@@ -361,7 +254,7 @@ private:
     int row_ = 0;
     bool lastWasHeader_ = true;
     std::vector<Cell> heads_;
-    std::vector<CellLook> looks_;
+    XlsLooks looks_;
     SharedTexts texts_;
     Spool cells_;
     QByteArray block_;  ///< cells on their way to the spool
