@@ -49,14 +49,7 @@ struct TextLine {
     bool plain = true;
 };
 
-void wrap(QStringView source, const Face& face, double width, std::vector<TextLine>& lines) {
-    const double plainWidth = face.plainWidth(source);
-    if (plainWidth >= 0 && plainWidth <= width) {
-        lines.push_back({0, source.size(), plainWidth, face.ascent(), face.descent(), true});
-        return;
-    }
-    QString text = source.toString();
-    text.replace(u'\n', QChar::LineSeparator);
+void breakLines(const QString& text, const Face& face, double width, std::vector<TextLine>& lines) {
     QTextLayout layout(text, face.font());
     QTextOption option;
     option.setUseDesignMetrics(true);
@@ -73,6 +66,23 @@ void wrap(QStringView source, const Face& face, double width, std::vector<TextLi
                          std::max(face.ascent(), line.ascent()), std::max(face.descent(), line.descent()), plain >= 0});
     }
     layout.endLayout();
+}
+
+void wrap(QStringView source, const Face& face, double width, std::vector<TextLine>& lines) {
+    const double plainWidth = face.plainWidth(source);
+    if (plainWidth >= 0 && plainWidth <= width) {
+        lines.push_back({0, source.size(), plainWidth, face.ascent(), face.descent(), true});
+        return;
+    }
+    QString text = source.toString();
+    text.replace(u'\n', QChar::LineSeparator);
+    // Shaped text is measured a little otherwise than glyph by glyph; no line may be too long in either way.
+    for (double narrower = width; narrower > width / 2; narrower *= 0.985) {
+        lines.clear();
+        breakLines(text, face, narrower, lines);
+        if (std::none_of(lines.begin(), lines.end(), [&](const TextLine& line) { return line.width > width + 1; }))
+            return;
+    }
 }
 
 double startOf(const TextLine& line, double left, double width, Alignment alignment) {

@@ -46,7 +46,7 @@ Face::Face(const TextStyle& style) : font_(makeFont(style)), rawFont_(QRawFont::
     const QVector<QPointF> advances = rawFont_.advancesForGlyphIndexes(indexes, QRawFont::UseDesignMetrics);
     for (size_t slot = 0; slot < glyphCount; ++slot)
         if (isDrawable(characterAt(slot)))
-            glyphs_[slot] = {indexes[qsizetype(slot)], float(advances[qsizetype(slot)].x())};
+            glyphs_[slot] = {indexes[qsizetype(slot)], qRound(advances[qsizetype(slot)].x())};
     ascent_ = rawFont_.ascent();
     descent_ = rawFont_.descent();
 }
@@ -72,11 +72,12 @@ double Face::plainWidth(QStringView text) const {
 }
 
 void Face::appendPlain(QStringView text, double x, double y, QVector<quint32>& glyphs, QVector<QPointF>& pens) const {
+    x = qRound(x);
     for (const QChar character : text) {
         const Glyph* found = glyph(character);
         if (!found) continue;
         glyphs.append(found->index);
-        pens.append(QPointF(qRound(x), y));
+        pens.append(QPointF(x, y));
         x += found->advance;
     }
 }

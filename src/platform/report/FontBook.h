@@ -35,7 +35,7 @@ public:
 private:
     struct Glyph {
         quint32 index = 0;
-        float advance = 0;
+        int advance = 0;  ///< in whole units, so that a pair of letters is always equally far apart: files get smaller
     };
     const Glyph* glyph(QChar character) const;
 

@@ -201,6 +201,17 @@ TEST_F(ReportFile, FileIsWholeOrNotThere) {
     }
 }
 
+TEST_F(ReportFile, KeepsTheLinkAndThePermissionsOfAnOlderFile) {
+    const QString real = path("real.html");
+    write("real.html", nameList(), FileFormat::Html, names({"Before"}));
+    ASSERT_TRUE(QFile::link(real, path("link.html")));
+    ASSERT_TRUE(QFile::setPermissions(real, QFile::ReadOwner | QFile::WriteOwner));
+    write("link.html", nameList(), FileFormat::Html, names({"After"}));
+    EXPECT_EQ(QFile::symLinkTarget(path("link.html")), real);
+    EXPECT_TRUE(contentOf(real).contains("After"));
+    EXPECT_FALSE(QFile::permissions(real) & (QFile::ReadGroup | QFile::ReadOther));
+}
+
 TEST_F(ReportFile, SaysWhichFileCouldNotBeWritten) {
     for (const QString& target : {path("missing/x.pdf"), folder_.path()}) {
         try {
