@@ -14,7 +14,7 @@
 #include <QScopeGuard>
 #include <QScrollArea>
 
-#include "platform/report/ReportFiller.h"
+#include "platform/report/ReportError.h"
 #include "platform/report/ReportPreview.h"
 #include "platform/widgets/ChoiceBox.h"
 #include "platform/widgets/FormLayout.h"
@@ -294,14 +294,16 @@ void frmReports::savePdf(const report::Report& report) {
                                                    .defaultSuffix = ".pdf",
                                                    .fileName = definition.title});
     if (!path) return;
-    if (!report::ReportFiller(definition, report.rows).hasRows()) {
-        program_.dialogs().information(tr("No Data to Report"), tr("No data available for report."));
-        return;
-    }
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    const QPageLayout paper = report::paperFor(definition, printer().pageLayout().pageSize());
-    report::writePdf(*path, *report::paginate(report, paper), definition.title);
+    try {
+        report::writeFile(*path, report, report::FileFormat::Pdf, printer().pageLayout().pageSize());
+    } catch (const report::NoDataError& none) {
+        QGuiApplication::restoreOverrideCursor();
+        program_.dialogs().information(tr("No Data to Report"), none.text());
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        return;
+    }
     UpdateStatusBar(tr("Report saved as %1.").arg(*path));
 }
 
