@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QProgressDialog>
+
+/// Shows how far a report has come once it takes longer than a moment, and lets the user cancel it.
+class ReportProgress final : public QProgressDialog {
+    Q_OBJECT
+
+public:
+    /// What is counted: "Page %1".
+    ReportProgress(const QString& title, QString counted, QWidget* parent);
+    ~ReportProgress() override;
+
+    /// Called as the work goes on. False when the user has cancelled.
+    bool advance(int done);
+
+private:
+    QString counted_;
+    QElapsedTimer sinceStart_;
+    QElapsedTimer sincePaint_;
+};
