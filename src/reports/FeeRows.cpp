@@ -57,9 +57,9 @@ void fillFeeWorkTable(StoreContext& store, bool byTeam) {
 
 ReportDefinition Reports::feeList(const ReportInput& input, const QString& title, const Field& balance) {
     ReportDefinition list = headed(input, title);
-    list.landscape = true;
+    list.points = 8.5;
     list.columns = {
-        {tr("Player Name"), lastFirst("PlayerLastName", "PlayerFirstName"), 24},
+        {tr("Player Name"), lastFirst("PlayerLastName", "PlayerFirstName"), 22},
         {tr("Phone"), phone("PlayerPhoneArea", "PlayerPhone"), 13},
         {tr("Birth Date"), date("PlayerBirthDate"), 10, Alignment::Right},
         {tr("Fee"), money("PlayerFeeAmount"), 11, {}, Total::Sum},
@@ -68,11 +68,11 @@ ReportDefinition Reports::feeList(const ReportInput& input, const QString& title
         {tr("Amount Paid"), money("PlayerAmountPaid"), 11, {}, Total::Sum},
         {tr("Balance"), balance, 11, {}, Total::Sum},
     };
-    list.lines = {Line{
-        {.share = 2},
-        {.field = joined({"PlayerAddress1", "PlayerAddress2"}), .share = 45},
-        {.field = cityLine("PlayerCity", "PlayerState", "PlayerPostalCode", "PlayerCountryCode"),
-         .share = 55}}.ifFilled()};
+    list.lines = {Line{{.share = 3},
+                       {.field = joined({"PlayerAddress1", "PlayerAddress2"}), .share = 45},
+                       {.field = cityLine("PlayerCity", "PlayerState", "PlayerPostalCode", "PlayerCountryCode"),
+                        .share = 52}}
+                      .ifFilled()};
     list.totals = fixed(tr("Totals:"));
     return list;
 }

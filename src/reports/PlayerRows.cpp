@@ -49,14 +49,14 @@ ReportDefinition Reports::playerList(const ReportInput& input, const QString& ti
     list.columns = {
         {tr("Player Name"), lastFirst("PlayerLastName", "PlayerFirstName"), 16, {}, Total::Count},
         {tr("Birth Date"), date("PlayerBirthDate"), 9, Alignment::Right},
-        {tr("Age"), playerAge(input), 4, Alignment::Right},
+        {tr("Age"), playerAge(input), 4, Alignment::Center},
         {tr("Gender"), column("PlayerGender"), 6.5},
         {tr("Address"), playerAddress(), 20},
         {tr("City"), column("PlayerCity"), 11},
-        {tr("Zip/Postal"), column("PlayerPostalCode"), 9.5},
+        {tr("Zip/Postal"), column("PlayerPostalCode"), 10},
         {tr("Phone"), phone("PlayerPhoneArea", "PlayerPhone"), 12},
-        {tr("Guardians"), playerGuardians(), 20},
-        {tr("Guardian Phones"), playerGuardianPhones(), 12.5},
+        {tr("Guardians"), guardianNames(), 18},
+        {tr("Guardian Phones"), guardianPhones(), 13},
     };
     list.totals = fixed(tr("Players:"));
     return list;
@@ -64,9 +64,9 @@ ReportDefinition Reports::playerList(const ReportInput& input, const QString& ti
 
 ReportDefinition Reports::playerStatusList(const ReportInput& input, const QString& title) {
     ReportDefinition list = playerList(input, title);
-    Column& last = list.columns.back();
-    last = {tr("Division"), column("DivName").orElse(tr("Not Assigned to a Division")), 16.5};
-    std::swap(last, list.columns[list.columns.size() - 2]);
+    list.columns.resize(list.columns.size() - 2);
+    list.columns.push_back({tr("Division"), column("DivName").orElse(tr("Not Assigned to a Division")), 16});
+    list.columns.push_back({tr("Guardians"), playerGuardians(), 20});
     return list;
 }
 
@@ -92,19 +92,50 @@ Field Reports::playerGuardians() {
     });
 }
 
-Field Reports::playerGuardianPhones() {
-    return computed([](const Row& row) {
+namespace {
+
+const char* const guardians[] = {"PlayerDad", "PlayerMom"};
+
+QString nameOf(const Row& row, const QString& guardian) {
+    const QString first = row.text(guardian + "FirstName"), last = row.text(guardian + "LastName");
+    return QString(first % u' ' % last).trimmed();
+}
+
+QString phoneOf(const Row& row, const QString& guardian, const char* kind) {
+    const QString column = guardian + QLatin1String(kind);
+    return phoneText(row.text(column % QStringLiteral("Area")), row.text(column));
+}
+
+/// A line for each guardian who has a name.
+Field ofEachGuardian(std::function<QString(const Row& row, const QString& guardian)> text) {
+    return computed([text = std::move(text)](const Row& row) {
+        QStringList lines;
+        for (const char* guardian : guardians)
+            if (!nameOf(row, guardian).isEmpty()) lines << text(row, guardian);
+        return lines.join(u'\n');
+    });
+}
+
+}  // namespace
+
+Field Reports::guardianNames() { return ofEachGuardian(nameOf); }
+
+Field Reports::guardianPhones() {
+    return ofEachGuardian([](const Row& row, const QString& guardian) {
+        for (const char* kind : {"MobilePhone", "Phone", "WorkPhone"})
+            if (const QString phone = phoneOf(row, guardian, kind); !phone.isEmpty()) return phone;
+        return QString();
+    });
+}
+
+Field Reports::allPhones(const QString& guardian) {
+    return computed([guardian, home = tr("Home"), work = tr("Work"), mobile = tr("Mobile")](const Row& row) {
         QStringList phones;
-        for (const char* which : {"Dad", "Mom"}) {
-            for (const char* kind : {"MobilePhone", "Phone", "WorkPhone"}) {
-                const QString column = QStringLiteral("Player") % QLatin1String(which) % QLatin1String(kind);
-                const QString text = phoneText(row.text(column % QStringLiteral("Area")), row.text(column));
-                if (text.isEmpty()) continue;
-                if (!phones.contains(text)) phones << text;
-                break;
-            }
-        }
-        return phones.join(u'\n');
+        const std::pair<const char*, QString> kinds[] = {{"Phone", home}, {"WorkPhone", work}, {"MobilePhone", mobile}};
+        for (const auto& [kind, label] : kinds)
+            if (const QString phone = phoneOf(row, guardian, kind); !phone.isEmpty())
+                phones << QString(label % u' ' % phone);
+        return phones.join(QStringLiteral("   "));
     });
 }
 

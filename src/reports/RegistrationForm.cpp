@@ -63,6 +63,7 @@ RegistrationForm::Lines RegistrationForm::guardians() {
 RegistrationForm::Lines RegistrationForm::medical() {
     Column history =
         entry(tr("Medical History: Allergies, Medications, Special Conditions, etc"), column("PlayerMedicalComments"));
+    history.fillIn = 2;
     return {heading(tr("Medical Information")),
             Line{entry(tr("Preferred Doctor Name:"), column("PlayerDoctorName"), 66),
                  entry(tr("Phone:"), phone("PlayerDoctorPhoneArea", "PlayerDoctorPhone"), 34)}
@@ -111,18 +112,20 @@ RegistrationForm::Lines RegistrationForm::uniform() {
                             tr("Youth X-Large"), tr("Adult Small"),   tr("Adult Medium"),
                             tr("Adult Large"),   tr("Adult X-Large"), tr("Adult XX-Large")};
     const auto boxes = [&](const QString& caption, const QString& name) {
-        Lines lines;
-        for (int from = 0; from < sizes.size() + 1; from += 5) {
-            Line line{words(from == 0 ? caption : QString(), 11)};
-            for (int index = from; index < from + 5 && index < sizes.size(); ++index)
-                line.push_back({.field = box(sizes[index], name, sizes[index]), .share = 17});
-            lines.push_back(line);
-        }
+        constexpr int inLine = 5;
         const auto isOther = [name, sizes](const Row& row) {
             const QString size = row.text(name);
             return !size.isEmpty() && !sizes.contains(size, Qt::CaseInsensitive);
         };
-        lines.back().push_back({.field = box(tr("Other ______________"), isOther), .share = 17});
+        Lines lines(2);
+        for (int index = 0; index < 2 * inLine; ++index) {
+            Line& line = lines[size_t(index / inLine)];
+            if (line.empty()) line.push_back(words(index == 0 ? caption : QString(), 11));
+            const bool isSize = index < sizes.size();
+            line.push_back({.field = isSize ? box(sizes[index], name, sizes[index])
+                                            : box(tr("Other ______________"), isOther),
+                            .share = index % inLine == inLine - 1 ? 22.0 : 16.0});
+        }
         return lines;
     };
     return together({{heading(tr("Uniform"))},

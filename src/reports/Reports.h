@@ -88,9 +88,14 @@ private:
 
     static report::Field playerAddress();
     static report::Field playerCity();
+    /// Both in one line.
     static report::Field playerGuardians();
-    /// The best number of each guardian.
-    static report::Field playerGuardianPhones();
+    // A line for each guardian, so that names and numbers stand level with each other: the mobile phone, else the next
+    // best.
+    static report::Field guardianNames();
+    static report::Field guardianPhones();
+    /// All numbers of one, "PlayerDad" or "PlayerMom", in one line.
+    static report::Field allPhones(const QString& guardian);
     /// The league age by the cut-off date of the division (DivAgeCutOffMonth, DivAgeCutOffDay) or, without, the
     /// default.
     static report::Field playerAge(const ReportInput& input);

@@ -92,7 +92,7 @@ LeagueReport Reports::uniformsByTeam(const ReportInput& input, const QueryText& 
         {tr("Player Name"), lastFirst("PlayerLastName", "PlayerFirstName"), 20, {}, Total::Count},
         {tr("Phone"), phone("PlayerPhoneArea", "PlayerPhone"), 12},
         {tr("Birth Date"), date("PlayerBirthDate"), 9, Alignment::Right},
-        {tr("Jersey"), column("PlayerJerseyNumber"), 6, Alignment::Right},
+        {tr("Jersey"), column("PlayerJerseyNumber"), 7, Alignment::Center},
         {tr("Shirt"), column("PlayerShirtSize"), 13},
         {tr("Pants"), column("PlayerPantSize"), 13},
         {tr("Hat"), column("PlayerHatSize"), 10},

@@ -22,25 +22,19 @@ QString columnsOfRecord() {
     return columns;
 }
 
-/// "Position: Catcher" for a field that the league has named itself and that holds something.
-Field customField(int number) {
-    return computed([number](const Row& row) -> QVariant {
-        const QString value = row.text(QStringLiteral("PlayerCustomField%1").arg(number));
-        const QString label = row.text(QStringLiteral("Label%1").arg(number));
-        if (value.isEmpty() || label.isEmpty()) return {};
-        return QString(label % (label.endsWith(u':') ? QLatin1String(" ") : QLatin1String(": ")) % value);
+/// "Position: Catcher" for each field that the league has named itself and that holds something.
+Field customFields() {
+    return computed([](const Row& row) {
+        QStringList fields;
+        for (int field = 1; field <= 6; ++field) {
+            const QString value = row.text(QStringLiteral("PlayerCustomField%1").arg(field));
+            QString label = row.text(QStringLiteral("Label%1").arg(field));
+            if (value.isEmpty() || label.isEmpty()) continue;
+            if (!label.endsWith(u':')) label += u':';
+            fields << QString(label % u' ' % value);
+        }
+        return fields.join(QStringLiteral("   "));
     });
-}
-
-Line guardian(const QString& which, const char* number, const QString& label, const QStringList& captions) {
-    const auto name = [&](const char* rest) { return QString("Player" + which + QLatin1String(rest)); };
-    return Line{
-        {label, firstLast(name("LastName"), name("FirstName")), 25},
-        {.field = column(QStringLiteral("PlayerGuardian%1Relationship").arg(QLatin1String(number))), .share = 12},
-        {captions[0], phone(name("PhoneArea"), name("Phone")), 19},
-        {captions[1], phone(name("WorkPhoneArea"), name("WorkPhone")), 19},
-        {captions[2], phone(name("MobilePhoneArea"), name("MobilePhone")), 19}}
-        .ifFilled();
 }
 
 }  // namespace
@@ -49,7 +43,12 @@ LeagueReport Reports::rptPlayerReport1(const ReportInput& input) {
     ReportDefinition record = headed(input, tr("Player Report"));
     QueryText one = players(Needs::Nothing, columnsOfRecord());
     record.query = wherePlayer(one, input.lists[0]).orderBy("PlayerLastName, PlayerFirstName, PlayerBirthDate");
-    const QStringList phones{tr("Home:"), tr("Work:"), tr("Mobile:")};
+    const auto guardian = [](const QString& which, const QString& relationship) {
+        return Line{{tr("Guardian:"), firstLast(which + "LastName", which + "FirstName"), 34},
+                    {.field = column(relationship), .share = 12},
+                    {.field = allPhones(which), .share = 54}}
+            .ifFilled();
+    };
     const Field throws = computed([](const Row& row) {
         const bool left = row["PlayerHandLeft"].toBool();
         const bool right = row["PlayerHandRight"].toBool();
@@ -81,9 +80,9 @@ LeagueReport Reports::rptPlayerReport1(const ReportInput& input) {
         Line{{tr("ID Checked:"), yesNo("PlayerIdCheck"), 23},
              {tr("Birth Certificate:"), yesNo("PlayerBirthCertificateChecked"), 23},
              {tr("Medical Form:"), yesNo("PlayerMedicalForm"), 54}},
-        guardian("Dad", "1", tr("Guardian:"), phones).spaced(3),
+        guardian("PlayerDad", "PlayerGuardian1Relationship").spaced(3),
         Line{{tr("Email:"), column("PlayerDadEmail")}}.ifFilled(),
-        guardian("Mom", "2", tr("Guardian:"), phones),
+        guardian("PlayerMom", "PlayerGuardian2Relationship"),
         Line{{tr("Email:"), column("PlayerMomEmail")}}.ifFilled(),
         Line{{tr("Emergency:"), column("PlayerEmergencyContactName"), 46},
              {.field = column("PlayerEmergencyContactRelationship"), .share = 27},
@@ -114,8 +113,7 @@ LeagueReport Reports::rptPlayerReport1(const ReportInput& input) {
              {tr("Paid:"), money("PlayerAmountPaid"), 18, Alignment::Left},
              {tr("By:"), column("PlayerHowFeePaid"), 23}}
             .ifFilled(),
-        Line{{.field = customField(1)}, {.field = customField(2)}, {.field = customField(3)}}.spaced(3).ifFilled(),
-        Line{{.field = customField(4)}, {.field = customField(5)}, {.field = customField(6)}}.ifFilled(),
+        Line{{.field = customFields()}}.spaced(3).ifFilled(),
         Line{{tr("Comments:"), column("PlayerComments")}}.ifFilled(),
     };
     return record;

@@ -19,14 +19,14 @@ LeagueReport Reports::rptPlayerReport3(const ReportInput& input) {
                        .orderBy("DivName, TeamName, PlayerLastName, PlayerFirstName, PlayerBirthDate");
     roster.columns = {
         {tr("Player Name"), lastFirst("PlayerLastName", "PlayerFirstName"), 18, {}, Total::Count},
-        {tr("Jersey"), column("PlayerJerseyNumber"), 5.5, Alignment::Right},
+        {tr("Jersey"), column("PlayerJerseyNumber"), 6, Alignment::Center},
         {tr("Birth Date"), date("PlayerBirthDate"), 9, Alignment::Right},
-        {tr("Age"), playerAge(input), 4, Alignment::Right},
+        {tr("Age"), playerAge(input), 4, Alignment::Center},
         {tr("Address"), playerAddress(), 20},
         {tr("City"), column("PlayerCity"), 11},
         {tr("Phone"), phone("PlayerPhoneArea", "PlayerPhone"), 12},
-        {tr("Guardians"), playerGuardians(), 20},
-        {tr("Guardian Phones"), playerGuardianPhones(), 13},
+        {tr("Guardians"), guardianNames(), 20},
+        {tr("Guardian Phones"), guardianPhones(), 13},
     };
     return roster;
 }

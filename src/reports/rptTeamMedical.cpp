@@ -16,11 +16,8 @@ LeagueReport Reports::rptTeamMedical(const ReportInput& input) {
             .whereChosen("PlayerTeamId", input.teamId)
             .orderBy("DivName, TeamName, PlayerLastName, PlayerFirstName, PlayerBirthDate");
     const auto guardian = [](const QString& which) {
-        const QString player = "Player" + which;
-        return Line{{tr("Guardian:"), firstLast(player + "LastName", player + "FirstName"), 37},
-                    {tr("Home:"), phone(player + "PhoneArea", player + "Phone"), 21},
-                    {tr("Work:"), phone(player + "WorkPhoneArea", player + "WorkPhone"), 21},
-                    {tr("Mobile:"), phone(player + "MobilePhoneArea", player + "MobilePhone"), 21}}
+        return Line{{tr("Guardian:"), firstLast(which + "LastName", which + "FirstName"), 37},
+                    {.field = allPhones(which), .share = 63}}
             .ifFilled();
     };
     sheet.lines = {
@@ -28,8 +25,8 @@ LeagueReport Reports::rptTeamMedical(const ReportInput& input) {
              {tr("Birth Date:"), date("PlayerBirthDate"), 21},
              {tr("Age:"), playerAge(input), 21},
              {tr("Phone:"), phone("PlayerPhoneArea", "PlayerPhone"), 21}},
-        guardian("Dad"),
-        guardian("Mom"),
+        guardian("PlayerDad"),
+        guardian("PlayerMom"),
         Line{{tr("Emergency:"), column("PlayerEmergencyContactName"), 37},
              {.field = column("PlayerEmergencyContactRelationship"), .share = 42},
              {.field = phone("PlayerEmergencyPhoneArea", "PlayerEmergencyPhone"), .share = 21}}
