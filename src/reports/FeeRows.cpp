@@ -68,11 +68,11 @@ ReportDefinition Reports::feeList(const ReportInput& input, const QString& title
         {tr("Amount Paid"), money("PlayerAmountPaid"), 11, {}, Total::Sum},
         {tr("Balance"), balance, 11, {}, Total::Sum},
     };
-    list.lines = {Line{{.share = 3},
-                       {.field = joined({"PlayerAddress1", "PlayerAddress2"}), .share = 45},
-                       {.field = cityLine("PlayerCity", "PlayerState", "PlayerPostalCode", "PlayerCountryCode"),
-                        .share = 52}}
-                      .ifFilled()};
+    list.lines = {Line{
+        {.share = 3},
+        {.field = joined({"PlayerAddress1", "PlayerAddress2"}), .share = 45},
+        {.field = cityLine("PlayerCity", "PlayerState", "PlayerPostalCode", "PlayerCountryCode"),
+         .share = 52}}.ifFilled()};
     list.totals = fixed(tr("Totals:"));
     return list;
 }

@@ -4,15 +4,6 @@
 
 using namespace report;
 
-namespace {
-
-QString phoneText(const QString& area, const QString& number) {
-    if (std::none_of(number.begin(), number.end(), [](QChar c) { return c.isDigit(); })) return {};
-    return area.trimmed().isEmpty() ? number : QString(u'(' % area % QLatin1String(") ") % number);
-}
-
-}  // namespace
-
 QueryText Reports::players(Needs parents, const QString& moreColumns) {
     const QString select =
         "SELECT PlayerId, PlayerDivisionId, PlayerTeamId, PlayerLastName, PlayerFirstName, PlayerMiddleInitial, "

@@ -122,9 +122,9 @@ RegistrationForm::Lines RegistrationForm::uniform() {
             Line& line = lines[size_t(index / inLine)];
             if (line.empty()) line.push_back(words(index == 0 ? caption : QString(), 11));
             const bool isSize = index < sizes.size();
-            line.push_back({.field = isSize ? box(sizes[index], name, sizes[index])
-                                            : box(tr("Other ______________"), isOther),
-                            .share = index % inLine == inLine - 1 ? 22.0 : 16.0});
+            line.push_back(
+                {.field = isSize ? box(sizes[index], name, sizes[index]) : box(tr("Other ______________"), isOther),
+                 .share = index % inLine == inLine - 1 ? 22.0 : 16.0});
         }
         return lines;
     };

@@ -5,9 +5,9 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
+#include "platform/report/ReportError.h"
 #include "platform/report/ReportFiller.h"
 #include "platform/report/ReportPreview.h"
-#include "reports/OutputShim.h"
 #include "reports/ReportProgress.h"
 #include "reports/StoreRows.h"
 #include "shell/Program.h"

@@ -2,15 +2,8 @@
 
 #include <QGuiApplication>
 
-namespace {
-
-constexpr qint64 moment = 400;  // milliseconds
-constexpr qint64 betweenPaints = 50;
-
-}  // namespace
-
-ReportProgress::ReportProgress(const QString& title, QString counted, QWidget* parent)
-    : QProgressDialog(parent), counted_(std::move(counted)) {
+ReportProgress::ReportProgress(const QString& title, QString counted, QWidget* parent, int patience)
+    : QProgressDialog(parent), counted_(std::move(counted)), patience_(patience) {
     setObjectName("frmReportProgress");
     setWindowTitle(title);
     setWindowModality(Qt::WindowModal);
@@ -28,8 +21,10 @@ ReportProgress::ReportProgress(const QString& title, QString counted, QWidget* p
 ReportProgress::~ReportProgress() { QGuiApplication::restoreOverrideCursor(); }
 
 bool ReportProgress::advance(int done) {
-    if (!isVisible() && sinceStart_.hasExpired(moment)) show();
-    if (isVisible() && sincePaint_.hasExpired(betweenPaints)) {
+    constexpr qint64 betweenPaints = 50;  // milliseconds
+    const bool showsNow = !isVisible() && sinceStart_.hasExpired(patience_ - 1);
+    if (showsNow) show();
+    if (showsNow || (isVisible() && sincePaint_.hasExpired(betweenPaints))) {
         setLabelText(counted_.arg(done));
         QCoreApplication::processEvents();
         sincePaint_.start();

@@ -8,8 +8,8 @@ class ReportProgress final : public QProgressDialog {
     Q_OBJECT
 
 public:
-    /// What is counted: "Page %1".
-    ReportProgress(const QString& title, QString counted, QWidget* parent);
+    /// What is counted: "Page %1". The window shows after so many milliseconds.
+    ReportProgress(const QString& title, QString counted, QWidget* parent, int patience = 400);
     ~ReportProgress() override;
 
     /// Called as the work goes on. False when the user has cancelled.
@@ -17,6 +17,7 @@ public:
 
 private:
     QString counted_;
+    int patience_;
     QElapsedTimer sinceStart_;
     QElapsedTimer sincePaint_;
 };

@@ -293,7 +293,7 @@ bool frmReports::meetsDemands(const ReportOption& option) {
 void frmReports::run() {
     ResetStatusBar();
     const ReportOption& option = *chosen();
-    if (!option.report || !meetsDemands(option)) return;
+    if (!meetsDemands(option) || !option.report) return;
     try {
         UpdateStatusBar(output_.run(option.report(input()), destinationButtons_->checkedId(), this));
     } catch (const std::exception& failure) {

@@ -9,8 +9,9 @@ LeagueReport Reports::rptPlayerReport9(const ReportInput& input) {
     list.groups = {byDivision(tr("Players outside the Ages of the Division:"))};
     // An age limit that is no number limits nothing.
     list.query = activePlayers(Needs::Division)
-                     .where("(PlayerAge < CAST(DivMinAge AS INTEGER) OR (PlayerAge > CAST(DivMaxAge AS INTEGER) "
-                            "AND (CAST(DivMaxAge AS INTEGER) > 0 OR DivMaxAge = \"0\")))")
+                     .where(
+                         "(PlayerAge < CAST(DivMinAge AS INTEGER) OR (PlayerAge > CAST(DivMaxAge AS INTEGER) "
+                         "AND (CAST(DivMaxAge AS INTEGER) > 0 OR DivMaxAge = \"0\")))")
                      .whereChosen("PlayerDivisionId", input.divisionId)
                      .orderBy("DivName, PlayerBirthDate, PlayerLastName, PlayerFirstName");
     list.columns = {

@@ -64,7 +64,7 @@ TEST_F(Definitions, FillTheirBandsFromTheSampleLeague) {
         if (pages.isEmpty()) continue;
         const report::Report run{report.definition, storeRows(sample->league.database())};
         for (const auto size : {QPageSize::Letter, QPageSize::A4})
-            report::writePdf(QString("%1/%2-%3.pdf").arg(pages, each.name, QPageSize::key(size)),
-                             *report::paginate(run, report::paperFor(report.definition, QPageSize(size))), each.name);
+            report::writeFile(QString("%1/%2-%3.pdf").arg(pages, each.name, QPageSize::key(size)), run,
+                              report::FileFormat::Pdf, QPageSize(size));
     }
 }

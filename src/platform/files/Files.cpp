@@ -23,14 +23,30 @@ QString tr(const char* text) { return QCoreApplication::translate("files", text)
     throw Error(what.arg(QDir::toNativeSeparators(path)) + u'\n' + reason, code);
 }
 
-/// An open file that closes itself; every failure raises.
+constexpr qsizetype blockSize = 1 << 18;
+
+/// The file behind a symbolic link, so that the link itself stays.
+QString realTarget(const QString& to) {
+    const QFileInfo about(to);
+    return about.exists() ? about.canonicalFilePath() : about.absoluteFilePath();
+}
+
+/// Of a file that takes the place of `to`.
+mode_t modeFor(const QString& to) {
+    struct stat about {};
+    return ::stat(QFile::encodeName(to), &about) == 0 ? about.st_mode & 0777 : 0644;
+}
+
+}  // namespace
+
+/// An open file that closes itself; every failure raises, under the name that the user knows it by.
 class Handle {
 public:
-    Handle(const QString& path, int flags, mode_t mode = 0)
-        : path_(path), id_(::open(QFile::encodeName(path), flags | O_CLOEXEC, mode)) {
+    Handle(const QString& path, int flags, mode_t mode = 0, const QString& shownName = {})
+        : path_(shownName.isEmpty() ? path : shownName), id_(::open(QFile::encodeName(path), flags | O_CLOEXEC, mode)) {
         if (id_ < 0)
-            fail(flags & O_CREAT ? tr("The file %1 could not be written.") : tr("The file %1 could not be read."), path,
-                 errno);
+            fail(flags & O_CREAT ? tr("The file %1 could not be written.") : tr("The file %1 could not be read."),
+                 path_, errno);
     }
     ~Handle() {
         if (id_ >= 0) ::close(id_);
@@ -70,16 +86,6 @@ private:
     int id_;
 };
 
-/// Removes a half-made file unless it was put in its place.
-struct Scrap {
-    QString path;
-    ~Scrap() {
-        if (!path.isEmpty()) QFile::remove(path);
-    }
-};
-
-}  // namespace
-
 bool Error::full() const { return code_ == ENOSPC || code_ == EDQUOT; }
 bool Error::readOnly() const { return code_ == EACCES || code_ == EPERM || code_ == EROFS; }
 
@@ -111,29 +117,66 @@ void replaceWith(const QString& made, const QString& to) {
     }
 }
 
+WholeFile::WholeFile(const QString& to, int mode) : to_(realTarget(to)), made_(temporaryName(to_)) {
+    if (QFileInfo(to_).isDir()) fail(tr("The file %1 could not be written."), to, EISDIR);
+    const mode_t wanted = mode == usualMode ? modeFor(to_) : static_cast<mode_t>(mode);
+    handle_ = std::make_unique<Handle>(made_, O_WRONLY | O_CREAT | O_EXCL, wanted, to);
+    open(QIODevice::WriteOnly);
+}
+
+WholeFile::~WholeFile() {
+    handle_.reset();
+    if (!made_.isEmpty()) QFile::remove(made_);
+}
+
+qint64 WholeFile::writeData(const char* data, qint64 length) {
+    if (failure_) return -1;
+    try {
+        waiting_.append(data, length);
+        if (waiting_.size() >= blockSize) flush();
+    } catch (...) {
+        failure_ = std::current_exception();
+        return -1;
+    }
+    return length;
+}
+
+void WholeFile::flush() {
+    handle_->write(waiting_.constData(), waiting_.size());
+    written_ += waiting_.size();
+    waiting_.resize(0);
+}
+
+void WholeFile::check() const {
+    if (failure_) std::rethrow_exception(failure_);
+}
+
+void WholeFile::commit() {
+    check();
+    flush();
+    handle_->finish(written_);
+    handle_.reset();
+    replaceWith(made_, to_);
+    made_.clear();
+    close();
+}
+
 void copyWhole(const QString& from, const QString& to) {
     if (sameFile(from, to)) throw Error(tr("A file cannot be copied onto itself."), EINVAL);
     Handle source(from, O_RDONLY);
-    Scrap scrap{temporaryName(to)};
-    Handle target(scrap.path, O_WRONLY | O_CREAT | O_EXCL, source.mode());
-    QByteArray block(1 << 20, Qt::Uninitialized);
-    qint64 total = 0;
+    WholeFile target(to, static_cast<int>(source.mode()));
+    QByteArray block(blockSize, Qt::Uninitialized);
     while (const qint64 count = source.read(block.data(), static_cast<size_t>(block.size()))) {
         target.write(block.constData(), count);
-        total += count;
+        target.check();
     }
-    target.finish(total);
-    replaceWith(scrap.path, to);
-    scrap.path.clear();
+    target.commit();
 }
 
 void writeWhole(const QString& to, const QByteArray& bytes) {
-    Scrap scrap{temporaryName(to)};
-    Handle target(scrap.path, O_WRONLY | O_CREAT | O_EXCL, 0644);
-    target.write(bytes.constData(), bytes.size());
-    target.finish(bytes.size());
-    replaceWith(scrap.path, to);
-    scrap.path.clear();
+    WholeFile target(to);
+    target.write(bytes);
+    target.commit();
 }
 
 }  // namespace files

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+#include <QIODevice>
 #include <exception>
+#include <memory>
 
 /// Files that are written whole or not at all. Everything is checked: each write's count, the flush, the sync and
 /// the size afterwards, because a full disk may show itself in any of them.
@@ -21,6 +21,40 @@ private:
     QString text_;
     QByteArray bytes_;
     int code_;
+};
+
+class Handle;
+
+/// A file that is written bit by bit and appears whole or not at all: made beside its target and put in the target's
+/// place by commit(). Until then, and for good when the object ends without a commit, an older file stays as it is.
+/// A symbolic link and the permissions of an older file stay too.
+class WholeFile final : public QIODevice {
+public:
+    /// Raises Error where the folder does not take a file.
+    explicit WholeFile(const QString& to, int mode = usualMode);
+    ~WholeFile() override;
+    /// Puts the file in its place when everything was written and is on disk; raises Error otherwise.
+    void commit();
+    /// Raises what made writing fail, if anything did: for long runs, which need not go on then.
+    void check() const;
+    bool isSequential() const override { return true; }
+
+    static constexpr int usualMode = -1;  ///< that of the older file; 0644 where there is none
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    /// Gives -1 on failure, now or earlier: whoever writes through Qt cannot be raised through.
+    qint64 writeData(const char* data, qint64 length) override;
+
+private:
+    void flush();
+
+    QString to_;
+    QString made_;
+    std::unique_ptr<Handle> handle_;
+    QByteArray waiting_;
+    qint64 written_ = 0;
+    std::exception_ptr failure_;
 };
 
 /// Copies `from` over `to` by way of a file beside `to` that is renamed when whole and on disk. An older `to`

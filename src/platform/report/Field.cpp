@@ -22,34 +22,6 @@ int columnOf(const RowSource& source, const QString& name) {
     return column;
 }
 
-/// Dates of the data file are in ISO form; others are as people type them.
-QString dateText(const QVariant& value) {
-    const int type = value.typeId();
-    if (type == QMetaType::QDate || type == QMetaType::QDateTime) return shortDate(value.toDate());
-    const QString text = value.toString();
-    const QDate date = QDate::fromString(text.left(10), Qt::ISODate);
-    if (date.isValid()) return shortDate(date);
-    const auto typed = parseDate(text);
-    return typed ? shortDate(*typed) : text;
-}
-
-QString timeText(const QVariant& value) {
-    const int type = value.typeId();
-    if (type == QMetaType::QTime || type == QMetaType::QDateTime) return formatTime(value.toTime());
-    const auto time = parseTime(value.toString());
-    return time ? formatTime(*time) : value.toString();
-}
-
-QString phoneText(const QString& area, const QString& number) {
-    QString digits;
-    for (const QChar c : number)
-        if (c.isDigit()) digits += c;
-    if (digits.isEmpty()) return {};
-    const QString shaped = digits.size() == 7 ? QString(digits.left(3) % u'-' % digits.mid(3)) : number.trimmed();
-    const QString code = area.trimmed();
-    return code.isEmpty() ? shaped : QString(u'(' % code % QLatin1String(") ") % shaped);
-}
-
 /// What is there of both, with the separator between them.
 QString together(const QString& first, const QString& separator, const QString& second) {
     if (first.isEmpty() || second.isEmpty()) return first % second;
@@ -153,14 +125,44 @@ QString BoundField::evaluate(const RowSource& source, QVariant& value) const {
     return field_->prefix.isEmpty() ? text : QString(field_->prefix % text);
 }
 
+QString phoneText(const QString& area, const QString& number) {
+    QString digits;
+    for (const QChar c : number)
+        if (c.isDigit()) digits += c;
+    if (digits.isEmpty()) return {};
+    const QString shaped = digits.size() == 7 ? QString(digits.left(3) % u'-' % digits.mid(3)) : number.trimmed();
+    const QString code = area.trimmed();
+    return code.isEmpty() ? shaped : QString(u'(' % code % QLatin1String(") ") % shaped);
+}
+
+std::optional<QDate> dateOf(const QVariant& value) {
+    const int type = value.typeId();
+    if (type == QMetaType::QDate || type == QMetaType::QDateTime) return value.toDate();
+    const QString text = value.toString();
+    const QDate stored = QDate::fromString(text.left(10), Qt::ISODate);
+    return stored.isValid() ? stored : parseDate(text);
+}
+
+std::optional<QTime> timeOf(const QVariant& value) {
+    const int type = value.typeId();
+    if (type == QMetaType::QTime || type == QMetaType::QDateTime) return value.toTime();
+    return parseTime(value.toString());
+}
+
 QString formatted(const QVariant& value, Format format, const QString& pattern) {
     switch (format) {
         case Format::Money: {
             const auto amount = Money::parse(value.toString());
             return amount ? amount->text() : value.toString();
         }
-        case Format::Date: return dateText(value);
-        case Format::Time: return timeText(value);
+        case Format::Date: {
+            const auto day = dateOf(value);
+            return day ? shortDate(*day) : value.toString();
+        }
+        case Format::Time: {
+            const auto time = timeOf(value);
+            return time ? formatTime(*time) : value.toString();
+        }
         case Format::YesNo: return yesNoText(value);
         case Format::Number: {
             const auto amount = pattern.isEmpty() ? std::nullopt : Decimal::parse(value.toString());

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QDateTime>
 #include <QStringList>
+#include <optional>
 #include <vector>
 
 #include "platform/report/RowSource.h"
@@ -85,6 +87,14 @@ private:
     const Field* field_;
     std::vector<int> columns_;
 };
+
+/// The date or the time that a value is or names: those of the data file are texts in ISO form, others as people type
+/// them.
+std::optional<QDate> dateOf(const QVariant& value);
+std::optional<QTime> timeOf(const QVariant& value);
+
+/// "(555) 123-4567"; without an area the number alone; nothing without a number.
+QString phoneText(const QString& area, const QString& number);
 
 /// The printed form of a single value (every format but those made of several columns).
 QString formatted(const QVariant& value, Format format, const QString& pattern = {});

@@ -12,15 +12,6 @@ constexpr char16_t punctuationStart = 0x2010;
 constexpr char16_t punctuationEnd = 0x2027;
 constexpr size_t glyphCount = latinEnd + (punctuationEnd - punctuationStart);
 
-QStringList families(Typeface typeface) {
-    switch (typeface) {
-        case Typeface::List: return {"Comic Sans MS", "Comic Neue", "Liberation Sans", "DejaVu Sans"};
-        case Typeface::Form: return {"Arial", "Liberation Sans", "DejaVu Sans"};
-        case Typeface::Label: return {"Times New Roman", "Liberation Serif", "DejaVu Serif"};
-    }
-    return {};
-}
-
 QFont makeFont(const TextStyle& style) {
     QFont font(families(style.typeface));
     font.setPixelSize(std::max(1, qRound(style.points * unitsPerPoint)));
@@ -38,6 +29,15 @@ bool isDrawable(char16_t character) {
 }
 
 }  // namespace
+
+QStringList families(Typeface typeface) {
+    switch (typeface) {
+        case Typeface::List: return {"Comic Sans MS", "Comic Neue", "Liberation Sans", "DejaVu Sans"};
+        case Typeface::Form: return {"Arial", "Liberation Sans", "DejaVu Sans"};
+        case Typeface::Label: return {"Times New Roman", "Liberation Serif", "DejaVu Serif"};
+    }
+    return {};
+}
 
 Face::Face(const TextStyle& style) : font_(makeFont(style)), rawFont_(QRawFont::fromFont(font_)), glyphs_(glyphCount) {
     QString characters(qsizetype(glyphCount), u' ');

@@ -13,6 +13,9 @@ namespace report {
 constexpr double unitsPerPoint = 10;
 constexpr int unitsPerInch = 720;
 
+/// The families of a typeface, the one that is meant first, then those that stand in for it.
+QStringList families(Typeface typeface);
+
 /// A font at one size with the glyphs of plain Latin text. All lengths in layout units.
 class Face {
 public:

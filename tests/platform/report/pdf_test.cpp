@@ -8,8 +8,8 @@
 #include <csignal>
 
 #include "ListRows.h"
+#include "platform/files/Files.h"
 #include "platform/report/Report.h"
-#include "platform/report/ReportError.h"
 #include "support/Printing.h"
 
 using namespace report;
@@ -45,7 +45,7 @@ ReportDefinition nameList() {
 
 void write(const QString& path, const ListRows::Tables& tables) {
     const Report report{nameList(), ListRows::over(tables)};
-    writePdf(path, *paginate(report, paperFor(report.definition)), report.definition.title);
+    writeFile(path, report, FileFormat::Pdf, QPageSize(QPageSize::Letter));
 }
 
 QByteArray contentOf(const QString& path) {
@@ -115,7 +115,7 @@ TEST_F(Pdf, PrintsNothingButLabelsOnASheetOfLabels) {
     definition.labels = LabelSheet{.skip = 1};
     const auto tables = names({"Ann", "Bob", "Cid"});
     const Report report{definition, ListRows::over(tables)};
-    writePdf(path_, *paginate(report, paperFor(definition)), "");
+    writeFile(path_, report, FileFormat::Pdf, QPageSize(QPageSize::A4));
     EXPECT_EQ(textOf(path_).simplified(), "Ann Bob 12.5 12.5 Cid 12.5");
 }
 
@@ -130,7 +130,7 @@ TEST_F(Pdf, LeavesTheOldFileWhenWritingFails) {
     const std::tuple<const ListRows::Tables&, rlim_t> cases[] = {{large, 60000}, {fits, size - 50}, {fits, 0}};
     for (const auto& [tables, space] : cases) {
         const FullDisk full(space);
-        EXPECT_THROW(write(path_, tables), ReportError) << space;
+        EXPECT_THROW(write(path_, tables), files::Error) << space;
         EXPECT_EQ(contentOf(path_), before);
         EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "no temporary file is left";
     }
@@ -143,7 +143,7 @@ TEST_F(Pdf, SaysWhichFileCouldNotBeWritten) {
         try {
             write(target, names({"Ann"}));
             FAIL() << "nothing was raised for " << target.toStdString();
-        } catch (const ReportError& error) {
+        } catch (const files::Error& error) {
             EXPECT_TRUE(error.text().contains(target)) << error.what();
         }
     }
