@@ -70,9 +70,9 @@ ReportDefinition Reports::feeList(const ReportInput& input, const QString& title
     };
     list.lines = {Line{
         {.share = 3},
-        {.field = joined({"PlayerAddress1", "PlayerAddress2"}), .share = 45},
+        {.field = joined({"PlayerAddress1", "PlayerAddress2"}), .share = 37},
         {.field = cityLine("PlayerCity", "PlayerState", "PlayerPostalCode", "PlayerCountryCode"),
-         .share = 52}}.ifFilled()};
+         .share = 60}}.ifFilled()};
     list.totals = fixed(tr("Totals:"));
     return list;
 }

@@ -22,7 +22,7 @@ ReportProgress::~ReportProgress() { QGuiApplication::restoreOverrideCursor(); }
 
 bool ReportProgress::advance(int done) {
     constexpr qint64 betweenPaints = 50;  // milliseconds
-    const bool showsNow = !isVisible() && sinceStart_.hasExpired(patience_ - 1);
+    const bool showsNow = !isVisible() && sinceStart_.elapsed() >= patience_;
     if (showsNow) show();
     if (showsNow || (isVisible() && sincePaint_.hasExpired(betweenPaints))) {
         setLabelText(counted_.arg(done));

@@ -63,9 +63,13 @@ private:
              "Wears a hearing aid on the left side; please speak to her from the right. No penicillin. Contact lenses. "
              "Sprained ankle in March, tape it before games."},
         };
+        const QString oneInTBall =
+            "(SELECT MIN(PlayerId) FROM tblRegistration WHERE PlayerActive = True AND DeletedFlag = False "
+            "AND PlayerTeamId <> 0 AND PlayerDivisionId = 1)";
+        QStringList values;
         for (const auto& each : longest)
-            database.execute(QString("UPDATE tblRegistration SET %1 = %2 WHERE PlayerId = 4")
-                                 .arg(each.column, datafile::quoted(QString(each.text).left(each.width))));
+            values << QLatin1String(each.column) + " = " + datafile::quoted(QString(each.text).left(each.width));
+        database.execute("UPDATE tblRegistration SET " + values.join(", ") + " WHERE PlayerId = " + oneInTBall);
     }
 };
 

@@ -344,7 +344,7 @@ TEST_F(ReportsTest, ListsOfferTheLiveRowsOfWhatTheOptionIsAbout) {
     ASSERT_TRUE(narrow->isEnabled());
     narrow->click();
     EXPECT_EQ(label(2), "Select by Division");
-    choose(9, 1);
+    button("optReportOptions", 1)->click();
     EXPECT_EQ(label(1), "Select by Category");
     EXPECT_EQ(entries(1), QStringList({"All Volunteer Categories", "Coach"}));
 }
@@ -444,15 +444,15 @@ TEST_F(ReportsTest, NeedsNoMouse) {
     open();
     ASSERT_TRUE(QTest::qWaitForWindowActive(screen));
     ASSERT_EQ(screen->focusWidget(), button("optReportSelection", 0));
+    QTest::keyClick(screen->focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(button("optReportOptions", 0)->text(), "Single Volunteer");
     QTest::keyClick(screen->focusWidget(), Qt::Key_Up);
-    EXPECT_TRUE(button("optReportSelection", 13)->isChecked());
     QTest::keyClick(screen->focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(screen->focusWidget(), button("optReportOptions", 0));
     QTest::keyClick(screen->focusWidget(), Qt::Key_Down);
     EXPECT_TRUE(button("optReportOptions", 1)->isChecked());
     QTest::keyClick(screen->focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(screen->focusWidget(), list(2)) << "not the first list, which this report does not use";
-    QTest::keyClick(screen->focusWidget(), Qt::Key_Tab);
     QTest::keyClick(screen->focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(screen->focusWidget(), button("optReportDestination", 1)) << "not the first, but the selected one";
     QTest::keyClick(screen->focusWidget(), Qt::Key_Left);
