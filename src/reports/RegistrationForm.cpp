@@ -13,7 +13,7 @@ Column words(const QString& text, double share = 10, double larger = 0) {
     return {.field = fixed(text), .share = share, .larger = larger};
 }
 
-constexpr double lineHeight = 16;  // points: room for handwriting
+constexpr double lineHeight = 15;  // points: room for handwriting
 constexpr double smallPrint = -1;  // points less than the form's size
 
 }  // namespace
@@ -61,8 +61,7 @@ RegistrationForm::Lines RegistrationForm::guardians() {
 }
 
 RegistrationForm::Lines RegistrationForm::medical() {
-    Column history =
-        entry(tr("Medical History: Allergies, Medications, Special Conditions, etc"), column("PlayerMedicalComments"));
+    Column history = entry({}, column("PlayerMedicalComments"));
     history.fillIn = 2;
     return {heading(tr("Medical Information")),
             Line{entry(tr("Preferred Doctor Name:"), column("PlayerDoctorName"), 66),
@@ -75,7 +74,8 @@ RegistrationForm::Lines RegistrationForm::medical() {
             Line{entry(tr("Insurance Carrier:"), column("PlayerInsuranceCarrier"), 60),
                  entry(tr("Policy Number:"), column("PlayerInsPolicyNumber"), 40)}
                 .high(lineHeight),
-            Line{history}.high(lineHeight)};
+            Line{words(tr("Medical History: Allergies, Medications, Special Conditions, etc"))}.high(lineHeight),
+            Line{history}};
 }
 
 RegistrationForm::Lines RegistrationForm::authorization(const QString& organization) {
@@ -98,7 +98,7 @@ RegistrationForm::Lines RegistrationForm::authorization(const QString& organizat
                      "licensed physicians or dentists, concurring in necessity for such surgery are obtained BEFORE "
                      "the surgery IS PERFORMED.")),
             signature,
-            bold(tr("PART II  REFUSAL OF CONSENT    (Do not complete if Part I has been completed)")),
+            bold(tr("PART II  REFUSAL OF CONSENT    (Do not complete if Part I has been completed)")).spaced(4),
             print(tr("I do NOT give consent for emergency medical treatment ") +
                   tr("of my child.  In the event of illness or injury requiring emergency treatment, ") +
                   tr("I wish that ") + organization + u' ' + tr("to take no action, ") +

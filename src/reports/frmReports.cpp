@@ -137,7 +137,8 @@ QWidget* frmReports::makeLists() {
     for (size_t index = 0; index < lists_.size(); ++index) {
         auto* list = lists_[index] = new ChoiceBox;
         list->setObjectName(QStringLiteral("cboList%1").arg(index + 1));
-        auto* label = listLabels_[index] = new QLabel;
+        auto* label = listLabels_[index] = new QLabel(ReportLists::label(ListKind::None));
+        label->setMinimumWidth(label->sizeHint().width());  // the lists keep their place whatever they are called
         label->setObjectName(QStringLiteral("lblList%1").arg(index + 1));
         label->setBuddy(list);
         grid->addWidget(label, int(index), 0);
