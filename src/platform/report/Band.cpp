@@ -9,4 +9,11 @@ QStringView Cell::words() const {
     return fillIn > 0 && all.endsWith(blankRule) ? all.chopped(blankRule.size()) : all;
 }
 
+QString Cell::plainText() const {
+    if (isCheckBox()) return QChar(isChecked() ? 0x2612 : 0x2610) % u' ' % words();
+    if (fillIn < 2) return text;
+    const QString rule = QString(blankRule).repeated(5);
+    return words() % rule % QString(u'\n' % rule).repeated(fillIn - 1);
+}
+
 }  // namespace report

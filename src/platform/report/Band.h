@@ -29,6 +29,8 @@ struct Cell {
     bool isChecked() const { return isCheckBox() && text.startsWith(QLatin1String("[x]")); }
     /// The text beside a check box or before a rule to write on; for all other cells their text.
     QStringView words() const;
+    /// The text for files: the check box as a character, each rule to write on as a line of its own.
+    QString plainText() const;
 };
 
 /// What sets a row of several lines apart from the row above it.

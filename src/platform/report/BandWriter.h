@@ -25,5 +25,7 @@ std::unique_ptr<BandWriter> xlsWriter(QIODevice& file, const ReportDefinition& d
 
 /// Labels as the rows of a sheet: one cell with all lines of a label, as many labels side by side as on the sheet.
 std::unique_ptr<BandSource> labelRows(std::unique_ptr<BandSource> bands, const LabelSheet& sheet);
+/// Labels as a list: each a row with its lines side by side.
+std::unique_ptr<BandSource> labelList(std::unique_ptr<BandSource> bands);
 
 }  // namespace report

@@ -51,6 +51,10 @@ void addEscaped(QByteArray& out, QStringView text) {
             case u'>': instead = "&gt;"; break;
             case u'"': instead = "&quot;"; break;
             case u'\n': instead = "<br>"; break;
+            case u' ':  // a browser takes several for one
+                if (at == 0 || text[at - 1] != u' ') continue;
+                instead = "&nbsp;";
+                break;
             case 0: instead = "&#65533;"; break;
             default: continue;
         }
@@ -215,8 +219,7 @@ private:
         const bool ownBold = cell.style.bold && !bold;
         if (ownBold) block += "<b>";
         if (cell.style.italic) block += "<i>";
-        if (cell.isCheckBox()) block += cell.isChecked() ? "&#9746; " : "&#9744; ";
-        addEscaped(block, cell.isCheckBox() ? cell.words() : QStringView(cell.text));
+        addEscaped(block, cell.plainText());
         if (cell.style.italic) block += "</i>";
         if (ownBold) block += "</b>";
         out_ << (inHead_ ? "</th>" : "</td>");

@@ -101,7 +101,9 @@ bool writeFile(const QString& path, const Report& report, FileFormat format, con
     const auto write = [&](auto makeWriter) {
         return writeBands(file, *makeWriter(file, definition, paper), *bands, progress);
     };
-    if (definition.labels && (format == FileFormat::Rtf || format == FileFormat::Html))
+    if (definition.labels && format == FileFormat::Excel)
+        bands = labelList(std::move(bands));
+    else if (definition.labels && format != FileFormat::Pdf)
         bands = labelRows(std::move(bands), *definition.labels);
     bool done = false;
     switch (format) {

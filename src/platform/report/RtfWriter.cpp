@@ -16,6 +16,7 @@ constexpr char line[] = "\\brdrs\\brdrw10\\brdrcf2";
 
 /// Text with the characters that mean something in rich text, and those beyond ASCII, written as rich text has them.
 void addEscaped(QByteArray& out, QStringView text) {
+    char16_t before = 0;
     for (const QChar character : text) {
         const char16_t code = character.unicode();
         if (code == u'\\' || code == u'{' || code == u'}') {
@@ -25,11 +26,14 @@ void addEscaped(QByteArray& out, QStringView text) {
             out += "\\line ";
         } else if (code == u'\t') {
             out += "\\tab ";
+        } else if (code == u' ' && before == u' ') {
+            out += "\\~";
         } else if (code < 0x80) {
             if (code >= 0x20) out += char(code);
         } else {
             out += "\\u" + QByteArray::number(qint16(code)) + '?';
         }
+        before = code;
     }
 }
 
@@ -69,6 +73,8 @@ public:
              << "\\margl" << twips(body_.left()) << "\\margr" << std::max(0, twips(size.width() - body_.right()))
              << "\\margt" << twips(body_.top()) << "\\margb" << twips(definition.labels ? 0 : 36)
              << "\\headery360\\footery360" << (definition.landscape ? "\\landscape" : "") << "\\viewkind1\n";
+        cellStart_ = "\\sb20\\sa20";
+        if (definition.labels) cellStart_ = "\\li" + QByteArray::number(twips(definition.labels->inset));
         if (!definition.labels) writeFooter();
     }
 
@@ -137,7 +143,7 @@ private:
         out_ << rowStart(band);
         const bool keep = band.isHeader();
         for (const Cell& cell : band.cells) {
-            out_ << "\\pard\\intbl" << (keep ? "\\keepn" : "") << alignmentWord(cell.alignment);
+            out_ << "\\pard\\intbl" << (keep ? "\\keepn" : "") << cellStart_ << alignmentWord(cell.alignment);
             writeText(cell);
             out_ << "\\cell";
         }
@@ -216,8 +222,7 @@ private:
         if (cell.style.bold) block += "\\b";
         if (cell.style.italic) block += "\\i";
         if (cell.label.isEmpty() || cell.style.bold || cell.style.italic) block += ' ';
-        if (cell.isCheckBox()) block += cell.isChecked() ? "\\u9746? " : "\\u9744? ";
-        addEscaped(block, cell.isCheckBox() ? cell.words() : QStringView(cell.text));
+        addEscaped(block, cell.plainText());
         if (cell.style.bold) block += "\\b0";
         if (cell.style.italic) block += "\\i0";
     }
@@ -225,6 +230,7 @@ private:
     TextOut out_;
     const ReportDefinition& definition_;
     QRectF body_;
+    QByteArray cellStart_;
     bool inHeader_ = false;
     bool inTable_ = false;
 

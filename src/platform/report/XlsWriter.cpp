@@ -82,9 +82,7 @@ std::optional<Number> numberIn(const Cell& cell) {
 }
 
 QString textOf(const Cell& cell) {
-    QString text = cell.text;
-    if (cell.isCheckBox()) text = QChar(cell.isChecked() ? 0x2612 : 0x2610) % u' ' % cell.words().toString();
-    return cell.label.isEmpty() ? text : QString(cell.label % u' ' % text);
+    return cell.label.isEmpty() ? cell.plainText() : QString(cell.label % u' ' % cell.plainText());
 }
 
 /// A file for what does not fit into memory; what fails is raised.
