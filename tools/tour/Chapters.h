@@ -9,3 +9,6 @@ void visitTeams(Guide& guide);
 
 /// An item of the equipment goes out to that team and comes back in part.
 void visitEquipment(Guide& guide);
+
+/// A registration form, a roster and the balance report in their previews.
+void visitReports(Guide& guide);
