@@ -32,6 +32,13 @@ void moveAcross(Guide& guide, const QString& name, const QString& text) {
     guide.fail("There is no " + text + " in " + name + '.');
 }
 
+/// The button clicks a moment after its access key.
+void save(Guide& guide) {
+    guide.key(Qt::Key_S, Qt::AltModifier);
+    guide.waitFor([&] { return !guide.control("cmdSave").isEnabled(); }, "The save");
+    guide.require(guide.control<QLabel>("lblStatus").text().endsWith(" Saved."), "The saved record");
+}
+
 void addTeam(Guide& guide) {
     guide.begin("A team of the division");
     guide.click("cmdTeams");
@@ -44,8 +51,7 @@ void addTeam(Guide& guide) {
     guide.fill("txtTeamColors", "Forest green");
     guide.fill("mskedTeamFeeAmount", "150");
     guide.picture("team-new");
-    guide.key(Qt::Key_S, Qt::AltModifier);
-    guide.waitForStatus(QString("Record \"%1\" Saved.").arg(team));
+    save(guide);
 }
 
 void addStaff(Guide& guide) {
@@ -53,8 +59,7 @@ void addStaff(Guide& guide) {
     guide.clickTab("Coach/Team Parent Information");
     pick(guide, Qt::Key_N, "cboHeadCoachSearchList", "winterb");
     guide.require(guide.control<QLabel>("lblHeadCoachFirstName").text() == "Rowan", "The parent as the coach");
-    guide.key(Qt::Key_S, Qt::AltModifier);
-    guide.waitForStatus(QString("Record \"%1\" Saved.").arg(team));
+    save(guide);
     guide.picture("team-staff");
 }
 
@@ -96,15 +101,13 @@ void rate(Guide& guide) {
     guide.fill("chkPosition2", " ");
     guide.require(guide.control<QLabel>("lblAvgRating").text() == "4.50", "The average of both skills");
     guide.picture("ratings-player");
-    guide.key(Qt::Key_S, Qt::AltModifier);
-    guide.waitForStatus("Record \"Winterbourne, Juniper - 9/14/2016\" Saved.");
+    save(guide);
     guide.clickTab("Volunteer Ratings");
     pick(guide, Qt::Key_U, "cboUmpireSearchList", "winterb");
     guide.key(Qt::Key_X, Qt::AltModifier);
     guide.fill("cboCoachAbilityRating", "Fair");
     guide.picture("ratings-volunteer");
-    guide.key(Qt::Key_S, Qt::AltModifier);
-    guide.waitFor([&] { return guide.control<QLabel>("lblStatus").text().endsWith("Saved."); }, "The saved rating");
+    save(guide);
 }
 
 void showScores(Guide& guide) {
