@@ -23,6 +23,8 @@ QString tr(const char* text) { return QCoreApplication::translate("files", text)
     throw Error(what.arg(QDir::toNativeSeparators(path)) + u'\n' + reason, code);
 }
 
+}  // namespace
+
 /// An open file that closes itself; every failure raises.
 class Handle {
 public:
@@ -60,6 +62,9 @@ public:
         id_ = -1;
         if (::close(id) != 0) fail(tr("The file %1 could not be written."), path_, errno);
     }
+    void seek(qint64 place) {
+        if (::lseek(id_, place, SEEK_SET) != place) fail(tr("The file %1 could not be written."), path_, errno);
+    }
     mode_t mode() const {
         struct stat about {};
         return ::fstat(id_, &about) == 0 ? about.st_mode & 0777 : 0644;
@@ -69,16 +74,6 @@ private:
     QString path_;
     int id_;
 };
-
-/// Removes a half-made file unless it was put in its place.
-struct Scrap {
-    QString path;
-    ~Scrap() {
-        if (!path.isEmpty()) QFile::remove(path);
-    }
-};
-
-}  // namespace
 
 bool Error::full() const { return code_ == ENOSPC || code_ == EDQUOT; }
 bool Error::readOnly() const { return code_ == EACCES || code_ == EPERM || code_ == EROFS; }
@@ -111,29 +106,54 @@ void replaceWith(const QString& made, const QString& to) {
     }
 }
 
+NewFile::NewFile(const QString& target, unsigned permissions)
+    : target_(target),
+      path_(temporaryName(target)),
+      handle_(std::make_unique<Handle>(path_, O_WRONLY | O_CREAT | O_EXCL, permissions)) {}
+
+NewFile::~NewFile() {
+    handle_.reset();
+    if (!path_.isEmpty()) QFile::remove(path_);
+}
+
+void NewFile::write(const char* from, qint64 size) {
+    handle_->write(from, size);
+    place_ += size;
+    size_ = std::max(size_, place_);
+}
+
+void NewFile::seek(qint64 place) {
+    if (place < 0 || place > size_) fail(tr("The file %1 could not be written."), path_, EINVAL);
+    handle_->seek(place);
+    place_ = place;
+}
+
+void NewFile::finish() {
+    if (!handle_) return;
+    handle_->finish(size_);
+    handle_.reset();
+}
+
+void NewFile::commit() {
+    finish();
+    replaceWith(path_, target_);
+    path_.clear();
+}
+
 void copyWhole(const QString& from, const QString& to) {
     if (sameFile(from, to)) throw Error(tr("A file cannot be copied onto itself."), EINVAL);
     Handle source(from, O_RDONLY);
-    Scrap scrap{temporaryName(to)};
-    Handle target(scrap.path, O_WRONLY | O_CREAT | O_EXCL, source.mode());
+    NewFile target(to, source.mode());
     QByteArray block(1 << 20, Qt::Uninitialized);
-    qint64 total = 0;
-    while (const qint64 count = source.read(block.data(), static_cast<size_t>(block.size()))) {
+    while (const qint64 count = source.read(block.data(), static_cast<size_t>(block.size())))
         target.write(block.constData(), count);
-        total += count;
-    }
-    target.finish(total);
-    replaceWith(scrap.path, to);
-    scrap.path.clear();
+    target.commit();
 }
 
 void writeWhole(const QString& to, const QByteArray& bytes) {
-    Scrap scrap{temporaryName(to)};
-    Handle target(scrap.path, O_WRONLY | O_CREAT | O_EXCL, 0644);
+    NewFile target(to);
     target.write(bytes.constData(), bytes.size());
-    target.finish(bytes.size());
-    replaceWith(scrap.path, to);
-    scrap.path.clear();
+    target.commit();
 }
 
 }  // namespace files
