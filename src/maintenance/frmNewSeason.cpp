@@ -2,9 +2,11 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <span>
 
@@ -121,13 +123,14 @@ frmNewSeason::frmNewSeason(Program& program) : program_(program), form_(new Form
     showBoxes();
     arm(false);
     form_->focusField(QLatin1String(yearBox));
+    resize(QSize(1080, 580).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
 }
 
 void frmNewSeason::addYear(FormBuilder& builder) {
     auto* hint = new QLabel(tr("(4-digit year i.e. 2000)"));
-    builder.frame({}).masked(QLatin1String(yearBox), tr("New Season &Year:"), QStringLiteral("####"),
-                             Binding([this] { return year_; }, [this](const QString& year) { year_ = year; }, 4));
-    builder.custom(hint);
+    builder.frame({}, 4).masked(QLatin1String(yearBox), tr("New Season &Year:"), QStringLiteral("####"),
+                                Binding([this] { return year_; }, [this](const QString& year) { year_ = year; }, 4));
+    builder.custom(hint).below();
 }
 
 void frmNewSeason::addBoxes(FormBuilder& builder) {
