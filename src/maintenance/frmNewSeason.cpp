@@ -123,7 +123,7 @@ frmNewSeason::frmNewSeason(Program& program) : program_(program), form_(new Form
     showBoxes();
     arm(false);
     form_->focusField(QLatin1String(yearBox));
-    resize(QSize(1080, 580).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    resize(QSize(1080, 500).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
 }
 
 void frmNewSeason::addYear(FormBuilder& builder) {

@@ -20,8 +20,9 @@ struct SeasonPart {
     std::vector<SeasonChange> changes;
 };
 
-/// One step of a new season. What it changes it changes as a whole: all of it is in the file or, after a disk that
-/// failed or a program that was ended, nothing.
+/// One step of a new season, a transaction of its own: after a disk that failed or a program that was ended it is all in
+/// the file or nothing of it. A row or table that is not as the step needs it ends the step, and what it did before
+/// stays.
 struct SeasonStep {
     bool (*runs)(const SeasonBoxes& boxes);
     std::vector<SeasonPart> parts;
@@ -37,7 +38,10 @@ struct SeasonDisplay {
     std::function<void(int percent)> progress;
 };
 
-/// Turns the data file over to a new season: visits all steps and does those whose boxes are checked. A change that
-/// fails ends its step in silence, what the step did before stays, and the run goes on with the next. Rows that are
-/// marked as deleted are changed like others.
+/// Does one step; raises what ended it before its time.
+void runSeasonStep(const SeasonStep& step, StoreContext& context, const QString& year, const SeasonDisplay& display);
+
+/// Turns the data file over to a new season: visits all steps and does those whose boxes are checked. A step
+/// that fails does so in silence, and the run goes on with the next. Rows that are marked as deleted are changed like
+/// others.
 void runNewSeason(StoreContext& context, const SeasonBoxes& boxes, const QString& year, const SeasonDisplay& display);
