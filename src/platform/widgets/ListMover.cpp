@@ -5,12 +5,27 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
+#include <QMimeData>
 #include <QToolButton>
 
 #include "platform/widgets/EntryListModel.h"
 #include "platform/widgets/FormLayout.h"
 
 namespace {
+
+constexpr char listOfOrigin[] = "application/x-kestrelmoor-list";
+
+/// Entries that say, while they are dragged, which list they come from.
+class MoverModel final : public EntryListModel {
+public:
+    explicit MoverModel(QWidget* list) : EntryListModel(list) {}
+    QStringList mimeTypes() const override { return {QLatin1String(listOfOrigin)}; }
+    QMimeData* mimeData(const QModelIndexList&) const override {
+        auto* data = new QMimeData;
+        data->setData(QLatin1String(listOfOrigin), parent()->objectName().toUtf8());
+        return data;
+    }
+};
 
 /// A list that takes what is dragged out of its counterpart.
 class MoverList final : public QListView {
@@ -30,7 +45,7 @@ protected:
 private:
     void judge(QDropEvent& event) const {
         event.setDropAction(Qt::MoveAction);
-        event.setAccepted(counterpart && event.source() == counterpart);
+        event.setAccepted(event.mimeData()->data(QLatin1String(listOfOrigin)) == counterpart->objectName().toUtf8());
     }
 };
 
@@ -67,8 +82,8 @@ ListMover::Half ListMover::makeHalf(Side side, const QString& title) {
     auto* grid = static_cast<QGridLayout*>(layout());
     const int column = side == Left ? 0 : 2;
     auto* label = new QLabel(title, this);
-    auto* model = new EntryListModel(this);
     auto* view = new MoverList(this);
+    auto* model = new MoverModel(view);
     view->setObjectName(objectName() + (side == Left ? QStringLiteral("Left") : QStringLiteral("Right")));
     view->setAccessibleName(QString(title).remove(u'&'));
     view->setModel(model);

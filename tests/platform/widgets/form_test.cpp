@@ -59,6 +59,14 @@ protected:
     Form* form = new Form;
 };
 
+TEST_F(FormTest, FieldThatIsGoneToIsReadyToBeTypedOver) {
+    QWidget inFront;
+    inFront.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&inFront)) << "as a box is when it closes";
+    form->focusField("txtName");
+    EXPECT_EQ(box("txtName")->selectedText(), "Ann");
+}
+
 TEST_F(FormTest, RefreshShowsTheValuesAndWritesNothing) {
     QSignalSpy changed(form, &Form::changed);
     name = "Zoë";
