@@ -10,9 +10,9 @@
 #include "shell/Program.h"
 #include "shell/SearchRow.h"
 
-RecordPane::RecordPane(Program& program, PaneText text) : ScreenPane(program, std::move(text)) {}
+RecordPane::RecordPane(Program& program, PaneText text, Orders orders) : ScreenPane(program, std::move(text), orders) {}
 
-void RecordPane::start(RecordClass& record, Form* form) {
+void RecordPane::start(RecordClass& record, Form* form, QWidget* before) {
     record_ = &record;
     form_ = form;
     auto* layout = new QVBoxLayout(this);
@@ -20,7 +20,10 @@ void RecordPane::start(RecordClass& record, Form* form) {
     layout->setSpacing(spacing::group);
     row_ = new SearchRow(text(), this);
     search_ = &row_->list();
-    layout->addWidget(row_);
+    auto* rows = new ColumnRow(this);
+    if (before) rows->addColumn(before, 0);
+    rows->addColumn(row_, 1);
+    layout->addWidget(rows);
     layout->addWidget(form_, 1);
     connect(row_, &SearchRow::picked, this, &RecordPane::pick);
     connect(row_, &SearchRow::stepped, this, [this](int index) {
@@ -37,13 +40,22 @@ void RecordPane::showFirst() {
     show(search_->entryCount() > 0 ? 0 : -1);
 }
 
-void RecordPane::readList() {
+bool RecordPane::hasRecord() const { return search_->currentIndex() >= 0; }
+
+std::vector<QString> RecordPane::readEntries() const {
     const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
-    seenChanges_ = database.changes();
-    row_->read(database, text().listQuery);
+    return SearchRow::entries(database, text().listQuery);
 }
 
-bool RecordPane::canDelete() const { return !isEditing() && search_->currentIndex() >= 0; }
+/// The reading itself may fill a work table.
+void RecordPane::readList() {
+    search_->setEntries(readEntries());
+    noteChanges();
+}
+
+void RecordPane::noteChanges() {
+    seenChanges_ = program().store.workspace.openDatabase(program().store.dataFilePath).changes();
+}
 
 void RecordPane::beginEditing() {
     if (!form_->isLoading()) setEditing(true);
@@ -135,7 +147,7 @@ std::vector<Finding> RecordPane::takenName() const {
 }
 
 bool RecordPane::save() {
-    if (!record_->isChanged()) {
+    if (!isChanged()) {
         setEditing(false);
         return true;
     }
@@ -152,7 +164,7 @@ bool RecordPane::save() {
     }
     const QString before = record_->isNew() ? QString() : shownEntry_;
     if (!writeGuarded(tr("The record was not saved"))) return false;
-    Q_EMIT said(tr("Record \"%1\" Saved.").arg(name()));
+    Q_EMIT said((text().saved.isEmpty() ? tr("Record \"%1\" Saved.") : text().saved).arg(name()));
     placeInList(before);
     return true;
 }
@@ -164,13 +176,13 @@ void RecordPane::placeInList(const QString& before) {
         if (const int index = search_->indexOf(text); index >= 0) search_->removeEntry(index);
     };
     if (before != saved) {
-        if (!before.isEmpty() && !find(before)) drop(before);
-        drop(saved);  // written otherwise, or the record that this one went over
+        if (!before.isEmpty() && (text().namesRepeat || !find(before))) drop(before);
+        if (!text().namesRepeat) drop(saved);  // written otherwise, or the record that this one went over
         search_->insertEntry(saved, listLess);
     }
     if (!find(saved)) program().dialogs().warning(tr("Error!"), text().missingText);
     show(search_->indexOf(saved));
-    seenChanges_ = program().store.workspace.openDatabase(program().store.dataFilePath).changes();
+    noteChanges();
 }
 
 /// Where the row itself is gone, the list says so when it is asked for it again.
@@ -217,7 +229,7 @@ void RecordPane::remove() {
 
 /// After a new record that was not wanted there is none in view.
 bool RecordPane::offerToSave(const QString& question, const QString& title) {
-    if (!record_->isChanged()) return true;
+    if (!isChanged()) return true;
     if (program().dialogs().ask(title.isEmpty() ? tr("Save Record?") : title,
                                 question.isEmpty() ? tr("Save the current record?") : question))
         return save();
@@ -230,8 +242,7 @@ bool RecordPane::offerToSave(const QString& question, const QString& title) {
 }
 
 bool RecordPane::offerToSaveBeforeClosing() {
-    if (!record_->isChanged() || !program().dialogs().ask(tr("Save Record?"), tr("Save the current record?")))
-        return true;
+    if (!isChanged() || !program().dialogs().ask(tr("Save Record?"), tr("Save the current record?"))) return true;
     if (!check().empty()) return save();
     try {
         return write();

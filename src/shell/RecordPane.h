@@ -22,9 +22,12 @@ class RecordPane : public ScreenPane {
     Q_OBJECT
 
 public:
-    RecordPane(Program& program, PaneText text);
+    RecordPane(Program& program, PaneText text, Orders orders = EveryOrder);
 
-    bool canDelete() const override;
+    bool hasRecord() const override;
+    bool canDelete() const override { return !isEditing() && hasRecord() && orders().testFlag(Delete); }
+    /// Whether there is something to save.
+    virtual bool isChanged() const { return record_->isChanged(); }
 
     void addNew() override;
     /// False when the record stayed unsaved; the user has been told why.
@@ -42,8 +45,9 @@ public:
     void focusSearch() override;
 
 protected:
-    /// Reads the list, shows its first record and lays the pane out. The last call of the constructor.
-    void start(RecordClass& record, Form* form);
+    /// Reads the list, shows its first record and lays the pane out, with `before` ahead of the search list. The last
+    /// call of the constructor.
+    void start(RecordClass& record, Form* form, QWidget* before = nullptr);
 
     RecordClass& record() const { return *record_; }
     Form& form() { return *form_; }
@@ -55,6 +59,8 @@ protected:
     /// For check(): the finding that another record has this one's name already, by which neither could be found.
     std::vector<Finding> takenName() const;
 
+    /// The entries of the search list in their order.
+    virtual std::vector<QString> readEntries() const;
     /// Finds the record of a list entry and loads it.
     virtual bool find(const QString& entry) = 0;
     /// What the status line calls the record.
@@ -88,6 +94,7 @@ private:
     void showBlank();
     void setEditing(bool editing) override;
     void readList();
+    void noteChanges();
     void dropEdits();
     bool writeGuarded(const QString& title);
     void placeInList(const QString& before);

@@ -26,12 +26,12 @@ RecordScreen::RecordScreen(Program& program, const QString& name, QSize designSi
     auto* row = new QHBoxLayout(buttons_);
     row->setContentsMargins({});
     row->addStretch(1);
-    add_ = addButton(QStringLiteral("cmdAdd"), tr("Add &New"), &ScreenPane::addNew);
-    save_ = addButton(QStringLiteral("cmdSave"), tr("&Save"), nullptr);
-    delete_ = addButton(QStringLiteral("cmdDelete"), tr("De&lete"), &ScreenPane::remove);
-    cancel_ = addButton(QStringLiteral("cmdCancel"), tr("Can&cel"), &ScreenPane::cancel);
-    refresh_ = addButton(QStringLiteral("cmdRefresh"), tr("&Refresh"), nullptr);
-    auto* close = addButton(QStringLiteral("cmdClose"), tr("Cl&ose"), nullptr);
+    add_ = makeButton(QStringLiteral("cmdAdd"), tr("Add &New"), &ScreenPane::addNew);
+    save_ = makeButton(QStringLiteral("cmdSave"), tr("&Save"), nullptr);
+    delete_ = makeButton(QStringLiteral("cmdDelete"), tr("De&lete"), &ScreenPane::remove);
+    cancel_ = makeButton(QStringLiteral("cmdCancel"), tr("Can&cel"), &ScreenPane::cancel);
+    refresh_ = makeButton(QStringLiteral("cmdRefresh"), tr("&Refresh"), nullptr);
+    auto* close = makeButton(QStringLiteral("cmdClose"), tr("Cl&ose"), nullptr);
     connect(save_, &QPushButton::clicked, this, [this] {
         if (ScreenPane* current = pane()) current->save();
     });
@@ -41,7 +41,7 @@ RecordScreen::RecordScreen(Program& program, const QString& name, QSize designSi
     connect(tabs_, &QTabWidget::currentChanged, this, &RecordScreen::changeTab);
 }
 
-QPushButton* RecordScreen::addButton(const QString& name, const QString& caption, void (ScreenPane::*what)()) {
+QPushButton* RecordScreen::makeButton(const QString& name, const QString& caption, void (ScreenPane::*what)()) {
     auto* button = new QPushButton(caption, buttons_);
     button->setObjectName(name);
     button->setAutoDefault(false);
@@ -59,6 +59,8 @@ void RecordScreen::addPane(ScreenPane* added) { addPage(added->text().caption, a
 void RecordScreen::addPage(const QString& caption, QWidget* page, const std::vector<ScreenPane*>& panes) {
     for (ScreenPane* added : panes) {
         addMenu(added, page);
+        if (const PaneText& text = added->text(); !text.addButton.isEmpty())
+            entries_.back().addButton = addButton(text.addButton, text.addCaption, [added] { added->addNew(); });
         connect(added, &ScreenPane::stateChanged, this, &RecordScreen::showState);
         connect(added, &ScreenPane::said, this, &RecordScreen::UpdateStatusBar);
     }
@@ -69,7 +71,7 @@ void RecordScreen::addPage(const QString& caption, QWidget* page, const std::vec
 /// The Data menu holds one submenu a pane; the same orders as the buttons.
 void RecordScreen::addMenu(ScreenPane* added, QWidget* page) {
     entries_.push_back({.pane = added, .page = page});
-    if (!added->orders()) return;
+    if (!(added->orders() & ~ScreenPane::Orders(ScreenPane::Refresh))) return;
     const QString& tag = added->text().tag;
     const QString& noun = added->text().noun;
     QMenu* menu = dataMenu()->addMenu(added->text().menu.isEmpty() ? added->text().caption : added->text().menu);
@@ -89,17 +91,20 @@ void RecordScreen::addMenu(ScreenPane* added, QWidget* page) {
     made.cancel = entry(ScreenPane::Cancel, "Cancel", tr("Can&cel"), [added] { added->cancel(); });
 }
 
+QPushButton* RecordScreen::addButton(const QString& name, const QString& caption, const std::function<void()>& press) {
+    auto* button = new QPushButton(caption, buttons_);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, press);
+    auto* row = static_cast<QHBoxLayout*>(buttons_->layout());
+    row->insertWidget(row->indexOf(add_) + 1, button);
+    QWidget::setTabOrder(add_, button);
+    return button;
+}
+
 void RecordScreen::addOrder(ScreenPane* owner, const QString& name, const QString& caption, const QString& entry,
                             const std::function<void()>& run) {
-    QPushButton* button = nullptr;
-    if (!name.isEmpty()) {
-        button = new QPushButton(caption, buttons_);
-        button->setObjectName(name);
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, run);
-        auto* row = static_cast<QHBoxLayout*>(buttons_->layout());
-        row->insertWidget(row->indexOf(add_) + 1, button);
-    }
+    QPushButton* button = name.isEmpty() ? nullptr : addButton(name, caption, run);
     for (const Entry& each : entries_)
         if (each.pane == owner) orders_.push_back({owner, button, addEntry(each.menu->menu(), entry, caption, run)});
     showState();
@@ -147,17 +152,23 @@ void RecordScreen::showState() {
     ScreenPane* current = pane();
     const bool editing = current && current->isEditing();
     if (editing) edited_ = current;
-    const bool canAdd = current && !editing && current->canAdd();
-    const bool canDelete = current && current->canDelete();
     const bool saved = save_->hasFocus() && !editing;
+    showButtons(current);
+    showMenus(current);
+    if (saved && edited_) edited_->focusSearch();  // else the focus would go on to Close
+}
+
+void RecordScreen::showButtons(const ScreenPane* current) {
+    const bool editing = current && current->isEditing();
+    const bool canDelete = current && current->canDelete();
     const bool alone = !current || current == tabs_->currentWidget();
     const auto knows = [current](ScreenPane::Order order) { return !current || current->orders().testFlag(order); };
-    add_->setVisible(alone && knows(ScreenPane::AddNew));
+    add_->setVisible(alone && knows(ScreenPane::AddNew) && (!current || current->text().addButton.isEmpty()));
     save_->setVisible(knows(ScreenPane::Save));
     delete_->setVisible(alone && knows(ScreenPane::Delete));
     cancel_->setVisible(knows(ScreenPane::Cancel));
     refresh_->setVisible(knows(ScreenPane::Refresh));
-    add_->setEnabled(canAdd);
+    add_->setEnabled(current && !editing && current->canAdd());
     save_->setEnabled(editing);
     delete_->setEnabled(canDelete);
     cancel_->setEnabled(editing);
@@ -168,6 +179,15 @@ void RecordScreen::showState() {
         order.entry->setEnabled(order.pane == current && canDelete);
     }
     for (const Entry& entry : entries_) {
+        if (!entry.addButton) continue;
+        entry.addButton->setVisible(entry.pane == current);
+        entry.addButton->setEnabled(!editing && entry.pane->canAdd());
+    }
+}
+
+void RecordScreen::showMenus(const ScreenPane* current) {
+    const bool editing = current && current->isEditing();
+    for (const Entry& entry : entries_) {
         const bool turn = editing ? entry.pane == current : entry.page == tabs_->currentWidget();
         entry.pane->setEnabled(turn || entry.page != tabs_->currentWidget());
         setPossible(entry.menu, turn);
@@ -176,7 +196,6 @@ void RecordScreen::showState() {
         setPossible(entry.remove, !editing && entry.pane->canDelete());
         setPossible(entry.cancel, editing);
     }
-    if (saved && edited_) edited_->focusSearch();  // else the focus would go on to Close
 }
 
 bool RecordScreen::offerToSave() {

@@ -34,21 +34,26 @@ protected:
     /// edited. Without a button's name there is only the entry.
     void addOrder(ScreenPane* pane, const QString& button, const QString& caption, const QString& entry,
                   const std::function<void()>& run);
+    /// A further button behind Add New.
+    QPushButton* addButton(const QString& name, const QString& caption, const std::function<void()>& press);
     QTabWidget& tabs() { return *tabs_; }
 
 private:
-    QPushButton* addButton(const QString& name, const QString& caption, void (ScreenPane::*press)());
+    QPushButton* makeButton(const QString& name, const QString& caption, void (ScreenPane::*press)());
     void addMenu(ScreenPane* pane, QWidget* page);
     ScreenPane* paneOf(const QWidget* page) const;
     void refresh();
     void catchUp();
     void changeTab(int index);
     void showState();
+    void showButtons(const ScreenPane* current);
+    void showMenus(const ScreenPane* current);
     void press(void (ScreenPane::*what)());
 
     struct Entry {
         ScreenPane* pane;
-        QWidget* page;            ///< the tab it is on: itself, or a page with others
+        QWidget* page;  ///< the tab it is on: itself, or a page with others
+        QPushButton* addButton = nullptr;
         QAction* menu = nullptr;  ///< its entries are null for orders that the pane does not know
         QAction* add = nullptr;
         QAction* save = nullptr;

@@ -21,6 +21,10 @@ struct PaneText {
     bool stepsOnly = false;     ///< without buttons for the first and the last record
     QString atFirst{};          ///< said where no record is before; empty: First Record
     QString atLast{};           ///< the same behind the last one
+    QString addButton{};        ///< object name of a button of its own to add; empty: the screen's
+    QString addCaption{};       ///< of that button
+    QString saved{};            ///< said after a save, %1 is the name; empty: Record "%1" Saved.
+    bool namesRepeat = false;   ///< records of one name stand in the list side by side
 };
 
 /// A pane of a RecordScreen: what the screen's buttons and its Data menu order of the pane in view. RecordPane, over
@@ -39,7 +43,9 @@ public:
     Orders orders() const { return orders_; }
     /// Whether there is unsaved work. The other panes of its page wait until there is none.
     bool isEditing() const { return editing_; }
-    virtual bool canAdd() const { return true; }
+    virtual bool canAdd() const { return orders_.testFlag(AddNew); }
+    /// Whether there is a record in view.
+    virtual bool hasRecord() const { return false; }
     virtual bool canDelete() const { return false; }
 
     virtual void addNew() {}

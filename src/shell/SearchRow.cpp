@@ -12,7 +12,8 @@
 #include "shell/ScreenPane.h"
 #include "store/RecordClass.h"
 
-SearchRow::SearchRow(const PaneText& text, QWidget* parent) : QWidget(parent), text_(text) {
+SearchRow::SearchRow(const PaneText& text, QWidget* parent)
+    : QWidget(parent), atFirst_(text.atFirst), atLast_(text.atLast) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(spacing::label);
@@ -48,10 +49,14 @@ SearchRow::SearchRow(const PaneText& text, QWidget* parent) : QWidget(parent), t
     layout->addStretch(1);
 }
 
-void SearchRow::read(const datafile::Database& database, const QString& query) {
+std::vector<QString> SearchRow::entries(const datafile::Database& database, const QString& query) {
     std::vector<QString> entries = database.readList(query, QStringLiteral("Name"));
     placeAccented(entries);
-    list_->setEntries(std::move(entries));
+    return entries;
+}
+
+void SearchRow::read(const datafile::Database& database, const QString& query) {
+    list_->setEntries(entries(database, query));
 }
 
 void SearchRow::setLocked(bool locked) {
@@ -65,9 +70,9 @@ void SearchRow::step(int code) {
     if (last < 0) return;
     Q_EMIT said({});
     if (code == MovePrevious && current <= 0)
-        Q_EMIT said(text_.atFirst.isEmpty() ? tr("First Record") : text_.atFirst);
+        Q_EMIT said(atFirst_.isEmpty() ? tr("First Record") : atFirst_);
     else if (code == MoveNext && current >= last)
-        Q_EMIT said(text_.atLast.isEmpty() ? tr("Last Record") : text_.atLast);
+        Q_EMIT said(atLast_.isEmpty() ? tr("Last Record") : atLast_);
     else
         Q_EMIT stepped(code == MoveFirst ? 0 : code == MoveLast ? last : code == MoveNext ? current + 1 : current - 1);
 }

@@ -15,10 +15,11 @@ class SearchRow final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The text outlives the row.
     SearchRow(const PaneText& text, QWidget* parent);
 
     SearchCombo& list() { return *list_; }
+    /// The column Name of a query's rows in the order of a list.
+    static std::vector<QString> entries(const datafile::Database& database, const QString& query);
     /// Fills the list. Nothing is selected afterwards.
     void read(const datafile::Database& database, const QString& query);
     /// While the work on a record is unsaved, list and buttons wait.
@@ -35,7 +36,8 @@ Q_SIGNALS:
 private:
     void step(int code);
 
-    const PaneText& text_;
+    QString atFirst_;
+    QString atLast_;
     SearchCombo* list_;
     std::vector<QToolButton*> moves_;
 };

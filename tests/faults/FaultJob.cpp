@@ -81,6 +81,8 @@ void LeagueFolder::makeLeague(const std::function<void(StoreContext&)>& fill) co
     });
 }
 
+bool isFullSweep() { return qgetenv("KESTREL_FAULTS") == "full"; }
+
 bool Aftermath::saidDone() const { return !told.empty() && told.last() == FaultJob::done; }
 
 void FaultJob::expectBeforeOrAfter(const Aftermath& aftermath) {

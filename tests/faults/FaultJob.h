@@ -36,6 +36,9 @@ struct Aftermath {
     bool saidDone() const;
 };
 
+/// Whether every change is to fail, with KESTREL_FAULTS=full in the environment, or only samples.
+bool isFullSweep();
+
 /// A piece of work on a league's files that is to be all done or not at all, whatever the disk does. A family of jobs
 /// is a file of its own and a line in Jobs.h.
 struct FaultJob {

@@ -137,7 +137,7 @@ protected:
 
 TEST_P(FaultSweep, LeavesTheStateBeforeOrAfterAndTellsTheTruth) {
     ASSERT_GE(changes_, 3) << "the faults do not reach the work";
-    if (qgetenv("KESTREL_FAULTS") == "full") {
+    if (isFullSweep()) {
         for (const Fault& fault : faults)
             for (int change = 1; change <= changes_; ++change) strike(change, fault);
     } else {

@@ -62,9 +62,9 @@ void judgePurge(const Aftermath& aftermath) {
 
 QList<FaultJob> housekeepingJobs() {
     return {{.name = "purge",
-             .samples = 12,
+             .samples = 8,
              .prepare = prepareEveryTable,
              .begin = FaultJob::step(purge),
              .judge = judgePurge},
-            {.name = "compact", .samples = 12, .prepare = prepareEveryTable, .begin = FaultJob::step(CompactDataFile)}};
+            {.name = "compact", .samples = 8, .prepare = prepareEveryTable, .begin = FaultJob::step(CompactDataFile)}};
 }

@@ -71,7 +71,7 @@ void changeMany(StoreContext& context) {
 }  // namespace
 
 QList<FaultJob> recordJobs() {
-    return {{.name = "save", .samples = 18, .prepare = prepare, .begin = saving(change)},
-            {.name = "add", .samples = 18, .prepare = prepare, .begin = saving(add)},
-            {.name = "bulk", .samples = 18, .prepare = prepare, .begin = FaultJob::step(changeMany)}};
+    return {{.name = "save", .samples = 10, .prepare = prepare, .begin = saving(change)},
+            {.name = "add", .samples = 10, .prepare = prepare, .begin = saving(add)},
+            {.name = "bulk", .samples = 10, .prepare = prepare, .begin = FaultJob::step(changeMany)}};
 }

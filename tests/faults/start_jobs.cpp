@@ -26,11 +26,12 @@ void expectNextStartToPass(const LeagueFolder& folder) {
     });
 }
 
-/// One start behind a step that is done but not yet told by the file's version is enough.
+/// Behind a step that is done but not yet told by the file's version one start is enough; the short form leaves that to
+/// the chain.
 std::function<void(const Aftermath&)> judgeStep() {
     return [started = std::make_shared<bool>(false)](const Aftermath& aftermath) {
         FaultJob::expectBeforeOrAfter(aftermath);
-        if (*started || aftermath.now[dataFile] != aftermath.after[dataFile]) return;
+        if (!isFullSweep() || *started || aftermath.now[dataFile] != aftermath.after[dataFile]) return;
         *started = true;
         expectNextStartToPass(aftermath.folder);
     };
@@ -40,7 +41,7 @@ FaultJob stepJob(const UpgradeStep& step) {
     const QString name = QString::fromLatin1(step.name);
     const int version = step.lastVersion;
     return {.name = name,
-            .samples = 3,
+            .samples = 2,
             .prepare = [version](const LeagueFolder& folder) { olderfile::make(folder.dataFile(), version); },
             .begin = FaultJob::step([name](StoreContext& context) {
                 for (const UpgradeStep& each : upgradeSteps())
@@ -92,7 +93,7 @@ void prepareCopy(const LeagueFolder& folder) {
 }  // namespace
 
 QList<FaultJob> startJobs() {
-    QList<FaultJob> jobs{{.name = "copy", .samples = 12, .prepare = prepareCopy, .begin = speaking(MakeSafetyCopy)}};
+    QList<FaultJob> jobs{{.name = "copy", .samples = 8, .prepare = prepareCopy, .begin = speaking(MakeSafetyCopy)}};
     for (const UpgradeStep& step : upgradeSteps()) jobs << stepJob(step);
     jobs << FaultJob{.name = "finish",
                      .samples = 6,
