@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QScrollArea>
 
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
@@ -101,6 +102,12 @@ Grid* ResultsPane::makeGrid() {
     grid->setEmptyText(tr("No results were entered for the division yet."));
     connect(grid, &Grid::rowPicked, this, &ResultsPane::showPicked);
     return grid;
+}
+
+/// In a narrow window the grid gives way: the form scrolls up and down only.
+void ResultsPane::showEvent(QShowEvent* event) {
+    GamesPane::showEvent(event);
+    form_->setMinimumWidth(form_->findChild<QScrollArea*>()->widget()->minimumSizeHint().width());
 }
 
 void ResultsPane::showDivision(Shown how) {

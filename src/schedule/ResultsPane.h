@@ -42,6 +42,7 @@ private:
     Form* makeForm();
     Grid* makeGrid();
 
+    void showEvent(QShowEvent* event) override;
     void showDivision(Shown how) override;
     void dropEdits() override;
     void readTeams();

@@ -51,8 +51,9 @@ void Grid::setUpHeaders() {
         const QFontMetrics metrics = fontMetrics();
         const int content = metrics.horizontalAdvance(u'0') * about.characters;
         setColumnWidth(column, std::max(content, metrics.horizontalAdvance(about.caption)) + cellPadding);
-        if (about.stretches) horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+        if (about.stretches) stretching_ = column;
     }
+    if (stretching_ >= 0) leastWidth_ = columnWidth(stretching_);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     const int height = std::max(choice_->sizeHint().height(), fontMetrics().height() + cellPadding * 3 / 4);
     verticalHeader()->setDefaultSectionSize(height);
@@ -223,6 +224,14 @@ void Grid::putCaretAtEnd() {
     box->end(false);
 }
 
+/// The column that stretches never gets narrower than it was made: the grid scrolls instead.
+void Grid::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    if (stretching_ < 0) return;
+    const int others = horizontalHeader()->length() - columnWidth(stretching_);
+    setColumnWidth(stretching_, std::max(leastWidth_, viewport()->width() - others));
+}
+
 void Grid::updateGeometries() {
     QTableView::updateGeometries();
     placeEditor();
@@ -234,7 +243,7 @@ void Grid::scrollContentsBy(int dx, int dy) {
 }
 
 void Grid::takeEdit(const QString& text) {
-    if (!editor_) return;
+    if (sender() != editor_) return;
     const QModelIndex index = currentIndex();
     scrollTo(index);
     model_->setText(index.row(), index.column(), text);

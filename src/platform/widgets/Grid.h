@@ -63,6 +63,7 @@ protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -98,5 +99,7 @@ private:
     QHash<int, QStringList> choices_;
     QString entered_;  ///< the current cell's text when it was entered
     QString emptyText_;
+    int stretching_ = -1;  ///< the column that takes the width that is left
+    int leastWidth_ = 0;   ///< of that column
     bool changing_ = false;  ///< rows come or go
 };
