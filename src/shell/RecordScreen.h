@@ -75,6 +75,6 @@ private:
     };
     std::vector<Entry> entries_;
     std::vector<Order> orders_;
-    RecordPane* edited_ = nullptr;  ///< last
+    ScreenPane* edited_ = nullptr;  ///< last
     int tab_ = 0;
 };

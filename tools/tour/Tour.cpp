@@ -1,10 +1,13 @@
 #include "tour/Tour.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QRadioButton>
+
+#include "tour/Chapters.h"
 
 namespace {
 
@@ -84,6 +87,11 @@ void Tour::take() {
     addSchool();
     previewList();
     saveList();
+    guide_.clickTool("btnStartUp");
+    guide_.waitForScreen("frmStartUp");
+    visitMaintenance(guide_, QFileInfo(pdf_).absolutePath() + "/Kestrelmoor.zip");  // the last: it changes the league
+    guide_.click("cmdReports");
+    guide_.waitForScreen("frmReports");
     exit();
 }
 
