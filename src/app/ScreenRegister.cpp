@@ -1,6 +1,7 @@
 #include "app/ScreenRegister.h"
 
 #include "league/frmFieldAvailability.h"
+#include "equipment/frmEquipment.h"
 #include "league/frmTeams.h"
 #include "maintenance/frmBackup.h"
 #include "maintenance/frmNewSeason.h"
@@ -26,6 +27,7 @@ void registerScreens(Program& program) {
         screens.addScreen(name, [&program, name] { return std::make_unique<EmptyScreen>(program, name); });
     }
     screens.addScreen("frmRatings", [&program] { return std::make_unique<frmRatings>(program); });
+    screens.addScreen("frmEquipment", [&program] { return std::make_unique<frmEquipment>(program); });
     screens.addScreen("frmRegister", [&program] { return std::make_unique<frmRegister>(program); });
     screens.addScreen("frmReports", [&program] { return std::make_unique<frmReports>(program); });
     screens.addScreen("frmResults", [&program] { return std::make_unique<frmResults>(program); });
@@ -37,7 +39,8 @@ void registerScreens(Program& program) {
     screens.addForm("frmNewSeason", [&program] { return std::make_unique<frmNewSeason>(program); });
     screens.addForm("frmExport", [&program] { return std::make_unique<frmExport>(program); });
     screens.addForm("frmImport", [&program] { return std::make_unique<frmImport>(program); });
-    screens.addForm("frmFieldAvailability", [] { return std::make_unique<frmFieldAvailability>(); });
+    screens.addForm("frmFieldAvailability",
+                    [&program] { return std::make_unique<frmFieldAvailability>(program.clock().today()); });
     screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });
     screens.addForm("frmOptions.CustomFields",
                     [&program] { return std::make_unique<frmOptions>(program, frmOptions::Page::CustomFields); });

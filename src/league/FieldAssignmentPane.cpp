@@ -19,7 +19,8 @@ FieldAssignmentPane::FieldAssignmentPane(Program& program)
                   .searchCaption = tr("C&urrent Division"),
                   .moveName = "cmdFieldDivisionMove",
                   .listQuery = "SELECT *, ([DivName]) as Name FROM tblDivision WHERE [DeletedFlag] = False "
-                               "ORDER BY [DivName]"},
+                               "ORDER BY [DivName]",
+                  .leastFormHeight = 240},
                  Refresh),
       division_(program.store),
       field_(program.store),

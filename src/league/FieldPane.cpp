@@ -69,7 +69,7 @@ void FieldPane::addAddressFrame(FormBuilder& builder) {
         .text("txtFieldStreet2", tr("Street Address 2"), field_.FieldStreet2, FilterTextWide)
         .text("txtFieldCity", tr("City"), field_.FieldCity, FilterTextFull)
         .choice("cboFieldStateId", tr("State"), field_.FieldStateId, stateIds(program()))
-        .together(tr("&Zip/Postal Code"))
+        .together(tr("Zip/Postal Code"))
         .masked("mskedFieldZipCode", tr("Zip"), "#####", maskedBinding(field_.FieldZipCode))
         .masked("mskedFieldZipCode4", tr("Zip extension"), "####", maskedBinding(field_.FieldZipCode4))
         .text("txtFieldPostalCode", tr("or Postal Code"), field_.FieldPostalCode, FilterTextFull);

@@ -27,7 +27,8 @@ TeamPane::TeamPane(Program& program)
                   .leaveQuestion = tr("Save the current Team record?"),
                   .searchCharacters = 26,
                   .addButton = "cmdTeamAddNew",
-                  .addCaption = tr("&Add NewTeam")}),
+                  .addCaption = tr("&Add NewTeam"),
+                  .leastFormHeight = 300}),
       team_(program.store),
       divisions_(makeDivisionRow()),
       staff_(new TeamStaff(

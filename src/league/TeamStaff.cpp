@@ -27,6 +27,7 @@ TeamStaff::TeamStaff(Program& program, Offer offerToSave)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
     layout->addWidget(tabs_);
+    tabs_->setObjectName(QStringLiteral("tabStaff"));
     for (auto& seat : seats_) seat = std::make_unique<Seat>(program.store);
     const QString assistant = tr("Save Assistant Coach Info?");
     addSeat(*seats_[0], "HeadCoach", tr("Manager/Coach"), tr("Save Head Coach Info?"),
@@ -85,7 +86,8 @@ Form* TeamStaff::buildForm(Seat& seat) {
           [&v] { return QString(v.VolAddress1() + u' ' + v.VolAddress2()).trimmed(); });
     shown("City", tr("City"), [&v] { return v.VolCity(); });
     shown("StateId", tr("State"), [&v] { return v.VolStateId(); });
-    shown("ZipCode", tr("Zip Code"), [&v] {
+    shown("ZipCode", tr("Zip/Postal"), [&v] {
+        if (v.VolZipCode().isEmpty()) return v.VolPostalCode();
         return v.VolZipCode4().isEmpty() ? v.VolZipCode() : QString(v.VolZipCode() + u'-' + v.VolZipCode4());
     });
     shown("HomePhone", tr("Home Phone"), [&v] { return phone(v.VolHomePhoneArea, v.VolHomePhone); });

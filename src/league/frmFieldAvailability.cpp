@@ -32,7 +32,7 @@ QPushButton* button(const char* name, const QString& caption) {
 
 }  // namespace
 
-frmFieldAvailability::frmFieldAvailability(QWidget* parent) : QDialog(parent) {
+frmFieldAvailability::frmFieldAvailability(QDate today) {
     setObjectName(QStringLiteral("frmFieldAvailability"));
     setWindowTitle(tr("Kestrelmoor - Field Availability"));
     auto* columns = new ColumnRow(this);
@@ -44,7 +44,7 @@ frmFieldAvailability::frmFieldAvailability(QWidget* parent) : QDialog(parent) {
     leftLayout->addWidget(copyFrame());
     leftLayout->addStretch(1);
     columns->addColumn(left, 1);
-    columns->addColumn(gridBox(), 1);
+    columns->addColumn(gridBox(today), 1);
     auto* close = button("cmdClose", tr("&Close"));
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
@@ -77,7 +77,7 @@ QGroupBox* frmFieldAvailability::setFrame() {
     fields->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     fields->addRow(tr("&Start Date"), named(new DateBox, "dtpStartDate", tr("Start Date")));
     fields->addRow(tr("&End Date"), named(new DateBox, "dtpEndDate", tr("End Date")));
-    fields->addRow(tr("&Time Slot"),
+    fields->addRow(tr("&Time Slot (hh:mm AM/PM)"),
                    named(new MaskedEdit(QStringLiteral("##:## ??")), "mskedTimeSlot", tr("Time Slot")));
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(button("cmdAddToList", tr("&Add To List")));
@@ -105,11 +105,12 @@ QGroupBox* frmFieldAvailability::copyFrame() {
     return frame;
 }
 
-QWidget* frmFieldAvailability::gridBox() {
+QWidget* frmFieldAvailability::gridBox(QDate today) {
     auto* box = new QWidget;
     auto* calendar = named(new QCalendarWidget, "calFieldAvailability", tr("Calendar"));
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     calendar->setFirstDayOfWeek(Qt::Sunday);
+    calendar->setSelectedDate(today);
     auto* caption = new QLabel(tr("Dates and Times A&vailable"));
     auto* grid = named(new QTableWidget(0, 2), "flxGridAvailability", caption->text());
     grid->setHorizontalHeaderLabels({tr("Date"), tr("Time")});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QDialog>
 
 class QGroupBox;
@@ -9,10 +10,10 @@ class frmFieldAvailability final : public QDialog {
     Q_OBJECT
 
 public:
-    explicit frmFieldAvailability(QWidget* parent = nullptr);
+    explicit frmFieldAvailability(QDate today);
 
 private:
     QGroupBox* setFrame();
     QGroupBox* copyFrame();
-    QWidget* gridBox();
+    QWidget* gridBox(QDate today);
 };

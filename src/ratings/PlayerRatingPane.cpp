@@ -28,12 +28,12 @@ Form* PlayerRatingPane::buildForm() {
     builder.frame(tr("Ratings"));
     clsAbilityRating& r = rating();
     addGrade(builder, "cboPitcherRating", tr("&Pitcher"), r.PitcherRating);
-    addGrade(builder, "cboThrowingRating", tr("Throwing"), r.ThrowingRating);
     addGrade(builder, "cboCatcherRating", tr("Catcher"), r.CatcherRating);
-    addGrade(builder, "cboRunningRating", tr("Running"), r.RunningRating);
     addGrade(builder, "cboInfieldRating", tr("Infield"), r.InfieldRating);
-    addGrade(builder, "cboBattingRating", tr("&Batting"), r.BattingRating);
     addGrade(builder, "cboOutfieldRating", tr("Outfield"), r.OutfieldRating);
+    addGrade(builder, "cboThrowingRating", tr("Throwing"), r.ThrowingRating);
+    addGrade(builder, "cboRunningRating", tr("Running"), r.RunningRating);
+    addGrade(builder, "cboBattingRating", tr("&Batting"), r.BattingRating);
     addGrade(builder, "cboKnowledgeRating", tr("&Knowledge"), r.KnowledgeRating);
     builder.shown("lblTotalRating", tr("Total Rating"), [this] { return total_; })
         .shown("lblAvgRating", tr("Avg. Rating"), [this] { return average_; });

@@ -8,11 +8,14 @@
 RatingPane::RatingPane(Program& program, PaneText text)
     : RecordPane(program, std::move(text), Save | Cancel | Refresh), rating_(program.store), player_(program.store) {}
 
+datafile::Database RatingPane::database() const {
+    return program().store.workspace.openDatabase(program().store.dataFilePath);
+}
+
 /// The live words in the order of their values.
 QStringList RatingPane::words() const {
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
     datafile::Recordset scale =
-        database.openRecordset("SELECT * from tblRating WHERE [DeletedFlag] = False ORDER BY [RatingValue] ASC");
+        database().openRecordset("SELECT * from tblRating WHERE [DeletedFlag] = False ORDER BY [RatingValue] ASC");
     std::vector<std::pair<double, QString>> words;
     for (; !scale.eof(); scale.moveNext())
         words.emplace_back(toNumber(scale.text("RatingValue")).value_or(0), scale.text("RatingText"));
@@ -74,8 +77,9 @@ bool RatingPane::find(const QString& entry) {
     rating_.requery();  // the other pane may have added the first row
     const bool rated = findRow(true);
     if (!rated) rating_.blank();
+    const bool hasScale = !database().openRecordset("tblRating").eof();
     for (const auto& grade : grades_) {
-        grade->word = rated ? rating_.FindRatingText(*grade->grade) : QString();
+        grade->word = rated && hasScale ? rating_.FindRatingText(*grade->grade) : QString();
         grade->value = rating_.FindRatingValue(grade->word);
     }
     comments_ = personComments();
@@ -103,7 +107,7 @@ bool RatingPane::write() {
     rating_.PlayerId = playerId();
     rating_.VolId = volunteerId();
     if (commentsTyped_) (playerId() != 0 ? rating_.PlayerComments : rating_.VolunteerComments) = comments_;
-    datafile::Transaction transaction(program().store.workspace.openDatabase(program().store.dataFilePath));
+    datafile::Transaction transaction(database());
     rating_.SaveARRecord();
     transaction.commit();
     QMetaObject::invokeMethod(this, &RecordPane::focusSearch, Qt::QueuedConnection);

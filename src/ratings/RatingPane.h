@@ -18,6 +18,7 @@ public:
     void clear();
 
 protected:
+    datafile::Database database() const;
     clsAbilityRating& rating() { return rating_; }
     clsRegistration& player() { return player_; }
     const clsRegistration& player() const { return player_; }

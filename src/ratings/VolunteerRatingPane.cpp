@@ -48,12 +48,11 @@ Form* VolunteerRatingPane::buildForm() {
 std::vector<QString> VolunteerRatingPane::LoadUmpireSearchList() const {
     clsAbilityRating work(program().store);
     work.FillTempRecords();
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
-    std::vector<QString> people = database.readList(
+    std::vector<QString> people = database().readList(
         "SELECT *, ([LastName] & \", \" & [FirstName] & \" - \" & [BirthDate]) as Name FROM tblTempSearchList WHERE "
         "[PlayerId] <> 0 ORDER BY [LastName], [FirstName], [BirthDate]",
         "Name");
-    std::vector<QString> volunteers = database.readList(
+    std::vector<QString> volunteers = database().readList(
         "SELECT *, ([LastName] & \", \" & [FirstName] & \" - \" & [HomePhone]  ) as Name FROM tblTempSearchList WHERE "
         "[VolId] <> 0 ORDER BY [LastName], [FirstName]",
         "Name");

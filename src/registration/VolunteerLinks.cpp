@@ -105,6 +105,7 @@ QWidget* VolunteerLinks::playersGroup() {
     associated_->setMinimumHeight(leastLines * associated_->fontMetrics().lineSpacing());
     associated_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // it takes what the page has left
     addCaption(tr("Pla&yers Associated with this Volunteer"), associated_);
+    layout->setStretchFactor(associated_, 1);
     connect(player_, &ChoiceBox::edited, this, &VolunteerLinks::choosePlayer);
     const auto take = [this](const QModelIndex& index) { choosePlayer(associatedNames_->entryAt(index.row())); };
     connect(associated_, &QListView::clicked, this, take);

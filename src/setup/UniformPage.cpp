@@ -78,11 +78,6 @@ void addButtons(RecordPane& pane, const QString& tag, const QString& title) {
 UniformPage::UniformPage(Program& program, const QString& checkTitle) {
     auto* outside = new QVBoxLayout(this);
     outside->setContentsMargins({});
-    auto* area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    outside->addWidget(area);
     auto* content = new QWidget;
     auto* layout = new QVBoxLayout(content);
     layout->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
@@ -119,7 +114,5 @@ UniformPage::UniformPage(Program& program, const QString& checkTitle) {
         panes_.push_back(pane);
     }
     for (QVBoxLayout* column : columns) column->addStretch(1);
-    area->setWidget(content);
-    area->viewport()->setAutoFillBackground(false);
-    content->setAutoFillBackground(false);
+    outside->addWidget(scrollArea(content));
 }

@@ -1,5 +1,6 @@
 #include "shell/RecordPane.h"
 
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "platform/text/Collation.h"
@@ -15,7 +16,7 @@ RecordPane::RecordPane(Program& program, PaneText text, Orders orders) : ScreenP
 void RecordPane::start(RecordClass& record, Form* form, QWidget* before) {
     record_ = &record;
     form_ = form;
-    auto* layout = new QVBoxLayout(this);
+    QVBoxLayout* layout = makeLayout();
     layout->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
     layout->setSpacing(spacing::group);
     row_ = new SearchRow(text(), this);
@@ -33,6 +34,16 @@ void RecordPane::start(RecordClass& record, Form* form, QWidget* before) {
     connect(row_, &SearchRow::said, this, &RecordPane::said);
     connect(form_, &Form::changed, this, &RecordPane::beginEditing);
     showFirst();
+}
+
+QVBoxLayout* RecordPane::makeLayout() {
+    if (text().leastFormHeight == 0) return new QVBoxLayout(this);
+    form_->setMinimumHeight(text().leastFormHeight);
+    auto* outside = new QVBoxLayout(this);
+    outside->setContentsMargins({});
+    auto* content = new QWidget(this);
+    outside->addWidget(scrollArea(content, this));
+    return new QVBoxLayout(content);
 }
 
 void RecordPane::showFirst() {
@@ -231,8 +242,11 @@ void RecordPane::remove() {
 bool RecordPane::offerToSave(const QString& question, const QString& title) {
     if (!isChanged()) return true;
     if (program().dialogs().ask(title.isEmpty() ? tr("Save Record?") : title,
-                                question.isEmpty() ? tr("Save the current record?") : question))
-        return save();
+                                question.isEmpty() ? tr("Save the current record?") : question)) {
+        const bool saved = save();
+        if (saved && !text().savedByOffer.isEmpty()) Q_EMIT said(text().savedByOffer);
+        return saved;
+    }
     const QString unsaved = unsavedName();
     const bool wasNew = record_->isNew();
     dropEdits();

@@ -6,6 +6,7 @@
 #include "store/RecordClass.h"
 
 class Form;
+class QVBoxLayout;
 class SearchCombo;
 class SearchRow;
 
@@ -89,6 +90,7 @@ protected:
     virtual void shown() {}
 
 private:
+    QVBoxLayout* makeLayout();
     void pick(int index);
     void show(int index);
     void showBlank();

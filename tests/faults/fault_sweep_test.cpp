@@ -122,6 +122,10 @@ protected:
             expectNoStrayFile(aftermath, fault);
             expectAnAnswer(result, fault, aftermath.saidDone());
             job_.judge(aftermath);
+            const QString state = now.value("Kestrelmoor.kmr") + QString::number(now.size());
+            if (!job_.next || tried_.contains(state)) return;
+            tried_ << state;
+            job_.next(aftermath);
         } catch (const std::exception& error) {
             ADD_FAILURE() << error.what();
         }
@@ -132,7 +136,8 @@ protected:
     LeagueFolder originals_{originalsFolder_.path()};
     QMap<QString, QString> before_;
     QMap<QString, QString> after_;
-    int changes_ = 0;  ///< that the work makes when no fault strikes
+    QSet<QString> tried_;  ///< states from which the user went on
+    int changes_ = 0;      ///< that the work makes when no fault strikes
 };
 
 TEST_P(FaultSweep, LeavesTheStateBeforeOrAfterAndTellsTheTruth) {

@@ -1,9 +1,7 @@
-#include "league/DivisionPane.h"
 #include "platform/widgets/ChoiceBox.h"
 #include "platform/widgets/CommentBox.h"
 #include "platform/widgets/SearchCombo.h"
 #include "reports/frmDivisionAges.h"
-#include "shell/RecordScreen.h"
 #include "support/Printing.h"
 #include "support/RunningProgram.h"
 
@@ -256,7 +254,6 @@ TEST_F(DivisionsTest, FailedRenameLeavesScheduleAndDivisionTogether) {
 }
 
 TEST_F(DivisionsTest, LeavingTheTabAsksForTheDivision) {
-    static_cast<RecordScreen*>(screen)->addPane(new DivisionPane(running.program));
     type(screen, "txtDivName", "Seniors");
     dialogs.expectQuestion("Save Record?", BoxAnswer::No, "Save the current Division record?");
     screen->findChild<QTabWidget*>()->setCurrentIndex(1);

@@ -35,17 +35,10 @@ void keepWidth(QWidget* widget, int characters) {
 
 FormBuilder::FormBuilder(Form* form) : form_(form) {}
 
-/// An area that scrolls what does not fit and otherwise cannot be seen.
-QWidget* FormBuilder::scrolled(QScrollArea* area) {
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
+QScrollArea* FormBuilder::scrolled() {
     auto* content = new QWidget;
     page(content);
-    area->setWidget(content);
-    area->viewport()->setAutoFillBackground(false);
-    content->setAutoFillBackground(false);
-    return content;
+    return scrollArea(content, form_);
 }
 
 /// What the form or one of its tabs shows: columns, in an area that scrolls when the window is too small.
@@ -66,8 +59,8 @@ FormBuilder& FormBuilder::below() {
 }
 
 FormBuilder& FormBuilder::tab(const QString& title) {
-    auto* area = new QScrollArea(form_);
-    scrolled(area)->layout()->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
+    QScrollArea* area = scrolled();
+    area->widget()->layout()->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
     addTab(title, area);
     return *this;
 }
@@ -93,9 +86,7 @@ FormBuilder& FormBuilder::column(int weight) {
     if (!columns_) {
         auto* layout = new QVBoxLayout(form_);
         layout->setContentsMargins(0, 0, 0, 0);
-        auto* area = new QScrollArea(form_);
-        scrolled(area);
-        layout->addWidget(area);
+        layout->addWidget(scrolled());
     }
     auto* widget = new QWidget(columns_);
     auto* inside = new QVBoxLayout(widget);

@@ -65,7 +65,7 @@ public:
 private:
     void addTab(const QString& title, QWidget* content);
     void page(QWidget* content);
-    QWidget* scrolled(QScrollArea* area);
+    QScrollArea* scrolled();
     QWidget* named(QWidget* editor, const QString& name, const QString& caption);
     QLabel* place(QWidget* widget, const QString& caption, QWidget* buddy);
     template <class Show>

@@ -6,6 +6,7 @@
 
 class QGridLayout;
 class QLabel;
+class QScrollArea;
 
 /// The one scale of distances between the parts of a form, in device-independent pixels.
 namespace spacing {
@@ -14,6 +15,9 @@ inline constexpr int line = 8;     ///< between two lines of fields
 inline constexpr int group = 16;   ///< between frames, between pairs of label and field
 inline constexpr int margin = 12;  ///< from an edge to what it holds
 }  // namespace spacing
+
+/// An area that scrolls what does not fit and otherwise cannot be seen.
+QScrollArea* scrollArea(QWidget* content, QWidget* parent = nullptr);
 
 /// Captions and fields in lines of so many pairs; of fewer where the width does not hold them all.
 class PairGrid final : public QWidget {

@@ -326,4 +326,40 @@ TEST(ListMover, AsksForMovesOnEveryWay) {
     EXPECT_FALSE(toLeft->isEnabled());
 }
 
+TEST(ListMover, TakesEntriesOverWhereItsOwnerAllowsIt) {
+    ListMover mover("lstPositions", "Positions", "Available");
+    mover.setListNames("lstTeam", "lstPool");
+    mover.setEntries(ListMover::Left, {"Coach", "Umpire"});
+    mover.setEntries(ListMover::Right, {"Manager", "Scorer"});
+    mover.setMayMove([&](ListMover::Side from, int index) { return mover.entryAt(from, index) != "Manager"; });
+    QObject::connect(&mover, &ListMover::moveRequested,
+                     [&](ListMover::Side from, int index) { mover.moveEntry(from, index, std::less<QString>()); });
+    auto* pool = mover.findChild<QListView*>("lstPool");
+    ASSERT_TRUE(pool && mover.findChild<QToolButton*>("lstPoolMove"));
+    pool->setCurrentIndex(pool->model()->index(0, 0));
+    QTest::keyClick(pool, Qt::Key_Return);
+    EXPECT_EQ(mover.entryCount(ListMover::Right), 2) << "refused";
+    pool->setCurrentIndex(pool->model()->index(1, 0));
+    QTest::keyClick(pool, Qt::Key_Return);
+    EXPECT_EQ(mover.entries(ListMover::Left), (std::vector<QString>{"Coach", "Scorer", "Umpire"})) << "in its place";
+    EXPECT_EQ(mover.selectedEntry(ListMover::Right), "Manager");
+}
+
+TEST(SearchCombo, EmptiedBoxTakesTheEmptyEntryWhereThereIsOne) {
+    const struct {
+        std::vector<QString> entries;
+        QString after;
+    } lists[] = {{{"", "Lee", "Moss"}, ""}, {{"Lee", "Moss"}, "Moss"}};
+    for (const auto& list : lists) {
+        SearchCombo combo("Volunteer");
+        combo.setEntries(std::vector<QString>(list.entries));
+        combo.setCurrentIndex(combo.indexOf("Moss"));
+        combo.show();
+        QTest::keyClick(&combo, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&combo, Qt::Key_Delete);
+        QTest::keyClick(&combo, Qt::Key_Return);
+        EXPECT_EQ(combo.entryAt(combo.currentIndex()), list.after);
+    }
+}
+
 }  // namespace
