@@ -3,6 +3,8 @@
 #include "league/frmFieldAvailability.h"
 #include "equipment/frmEquipment.h"
 #include "league/frmTeams.h"
+#include "maintenance/frmBackup.h"
+#include "maintenance/frmNewSeason.h"
 #include "ratings/frmRatings.h"
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
@@ -33,6 +35,8 @@ void registerScreens(Program& program) {
     screens.addScreen("frmTeams", [&program] { return std::make_unique<frmTeams>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
+    screens.addForm("frmBackup", [&program] { return std::make_unique<frmBackup>(program); });
+    screens.addForm("frmNewSeason", [&program] { return std::make_unique<frmNewSeason>(program); });
     screens.addForm("frmExport", [&program] { return std::make_unique<frmExport>(program); });
     screens.addForm("frmImport", [&program] { return std::make_unique<frmImport>(program); });
     screens.addForm("frmFieldAvailability",

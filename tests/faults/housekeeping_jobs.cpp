@@ -5,10 +5,7 @@
 
 // The compact, and the purge: each table's rows go together, one table after the other.
 
-namespace {
-
-/// Rows in every table of the purge, every second one marked as deleted.
-void prepare(const LeagueFolder& folder) {
+void prepareEveryTable(const LeagueFolder& folder) {
     folder.makeLeague([](StoreContext& context) {
         const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
         QStringList tables = purgedTables();
@@ -32,6 +29,8 @@ void prepare(const LeagueFolder& folder) {
         }
     });
 }
+
+namespace {
 
 int deletedRows(const datafile::Database& database, const QString& table) {
     return database.openRecordset("SELECT * FROM " + table + " WHERE [DeletedFlag] = True").recordCount();
@@ -67,9 +66,9 @@ void purgeAnew(const Aftermath& aftermath) {
 QList<FaultJob> housekeepingJobs() {
     return {{.name = "purge",
              .samples = 8,
-             .prepare = prepare,
+             .prepare = prepareEveryTable,
              .begin = FaultJob::step(purge),
              .judge = judgePurge,
              .next = purgeAnew},
-            {.name = "compact", .samples = 8, .prepare = prepare, .begin = FaultJob::step(CompactDataFile)}};
+            {.name = "compact", .samples = 8, .prepare = prepareEveryTable, .begin = FaultJob::step(CompactDataFile)}};
 }

@@ -1,6 +1,7 @@
 #include "tour/Tour.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -96,6 +97,7 @@ void Tour::take() {
     guide_.waitForScreen("frmStartUp");
     visitTeams(guide_);
     visitEquipment(guide_);
+    visitMaintenance(guide_, QFileInfo(pdf_).absolutePath() + "/Kestrelmoor.zip");  // the last: it changes the league
     guide_.click("cmdReports");
     guide_.waitForScreen("frmReports");
     exit();

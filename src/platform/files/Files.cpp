@@ -76,6 +76,9 @@ public:
         id_ = -1;
         if (::close(id) != 0) fail(tr("The file %1 could not be written."), path_, errno);
     }
+    void seek(qint64 place) {
+        if (::lseek(id_, place, SEEK_SET) != place) fail(tr("The file %1 could not be written."), path_, errno);
+    }
     mode_t mode() const {
         struct stat about {};
         return ::fstat(id_, &about) == 0 ? about.st_mode & 0777 : 0644;
@@ -117,17 +120,42 @@ void replaceWith(const QString& made, const QString& to) {
     }
 }
 
-WholeFile::WholeFile(const QString& to, int mode) : to_(realTarget(to)), made_(temporaryName(to_)) {
-    if (QFileInfo(to_).isDir()) fail(tr("The file %1 could not be written."), to, EISDIR);
-    const mode_t wanted = mode == usualMode ? modeFor(to_) : static_cast<mode_t>(mode);
-    handle_ = std::make_unique<Handle>(made_, O_WRONLY | O_CREAT | O_EXCL, wanted, to);
-    open(QIODevice::WriteOnly);
+NewFile::NewFile(const QString& target, int permissions) : target_(realTarget(target)), path_(temporaryName(target_)) {
+    if (QFileInfo(target_).isDir()) fail(tr("The file %1 could not be written."), target, EISDIR);
+    const mode_t mode = permissions == usualMode ? modeFor(target_) : static_cast<mode_t>(permissions);
+    handle_ = std::make_unique<Handle>(path_, O_WRONLY | O_CREAT | O_EXCL, mode, target);
 }
 
-WholeFile::~WholeFile() {
+NewFile::~NewFile() {
     handle_.reset();
-    if (!made_.isEmpty()) QFile::remove(made_);
+    if (!path_.isEmpty()) QFile::remove(path_);
 }
+
+void NewFile::write(const char* from, qint64 size) {
+    handle_->write(from, size);
+    place_ += size;
+    size_ = std::max(size_, place_);
+}
+
+void NewFile::seek(qint64 place) {
+    if (place < 0 || place > size_) fail(tr("The file %1 could not be written."), target_, EINVAL);
+    handle_->seek(place);
+    place_ = place;
+}
+
+void NewFile::finish() {
+    if (!handle_) return;
+    handle_->finish(size_);
+    handle_.reset();
+}
+
+void NewFile::commit() {
+    finish();
+    replaceWith(path_, target_);
+    path_.clear();
+}
+
+WholeFile::WholeFile(const QString& to) : file_(to) { open(QIODevice::WriteOnly); }
 
 qint64 WholeFile::writeData(const char* data, qint64 length) {
     if (failure_) return -1;
@@ -142,8 +170,7 @@ qint64 WholeFile::writeData(const char* data, qint64 length) {
 }
 
 void WholeFile::flush() {
-    handle_->write(waiting_.constData(), waiting_.size());
-    written_ += waiting_.size();
+    file_.write(waiting_.constData(), waiting_.size());
     waiting_.resize(0);
 }
 
@@ -154,28 +181,23 @@ void WholeFile::check() const {
 void WholeFile::commit() {
     check();
     flush();
-    handle_->finish(written_);
-    handle_.reset();
-    replaceWith(made_, to_);
-    made_.clear();
+    file_.commit();
     close();
 }
 
 void copyWhole(const QString& from, const QString& to) {
     if (sameFile(from, to)) throw Error(tr("A file cannot be copied onto itself."), EINVAL);
     Handle source(from, O_RDONLY);
-    WholeFile target(to, static_cast<int>(source.mode()));
+    NewFile target(to, static_cast<int>(source.mode()));
     QByteArray block(blockSize, Qt::Uninitialized);
-    while (const qint64 count = source.read(block.data(), static_cast<size_t>(block.size()))) {
+    while (const qint64 count = source.read(block.data(), static_cast<size_t>(block.size())))
         target.write(block.constData(), count);
-        target.check();
-    }
     target.commit();
 }
 
 void writeWhole(const QString& to, const QByteArray& bytes) {
-    WholeFile target(to);
-    target.write(bytes);
+    NewFile target(to);
+    target.write(bytes.constData(), bytes.size());
     target.commit();
 }
 

@@ -15,6 +15,7 @@ public:
     const QString& text() const { return text_; }
     bool full() const;
     bool readOnly() const;
+    int code() const { return code_; }  ///< the system's number for it
     const char* what() const noexcept override { return bytes_.constData(); }
 
 private:
@@ -23,23 +24,48 @@ private:
     int code_;
 };
 
-class Handle;
+class Handle;  ///< an open file
 
-/// A file that is written bit by bit and appears whole or not at all: made beside its target and put in the target's
-/// place by commit(). Until then, and for good when the object ends without a commit, an older file stays as it is.
-/// A symbolic link and the permissions of an older file stay too.
+/// A file in the making, under another name beside its target. It is removed when the object ends without commit(); an
+/// older file stays as it is until then. A symbolic link and the permissions of an older file stay for good.
+class NewFile {
+public:
+    static constexpr int usualMode = -1;  ///< that of the older file; 0644 where there is none
+
+    /// Raises Error where the folder does not take a file.
+    explicit NewFile(const QString& target, int permissions = usualMode);
+    ~NewFile();
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+
+    const QString& path() const { return path_; }
+    qint64 size() const { return size_; }
+    void write(const char* from, qint64 size);
+    /// The place of the next write; beyond the end is an Error.
+    void seek(qint64 place);
+    qint64 place() const { return place_; }
+    /// Nothing more will be written: all of it is on disk now, and closed.
+    void finish();
+    /// Puts the finished file in the place of the target.
+    void commit();
+
+private:
+    QString target_;
+    QString path_;
+    std::unique_ptr<Handle> handle_;
+    qint64 place_ = 0;
+    qint64 size_ = 0;
+};
+
+/// A new file as a device of the toolkit's, written from its beginning to its end.
 class WholeFile final : public QIODevice {
 public:
-    /// Raises Error where the folder does not take a file.
-    explicit WholeFile(const QString& to, int mode = usualMode);
-    ~WholeFile() override;
+    explicit WholeFile(const QString& to);
     /// Puts the file in its place when everything was written and is on disk; raises Error otherwise.
     void commit();
     /// Raises what made writing fail, if anything did: for long runs, which need not go on then.
     void check() const;
     bool isSequential() const override { return true; }
-
-    static constexpr int usualMode = -1;  ///< that of the older file; 0644 where there is none
 
 protected:
     qint64 readData(char*, qint64) override { return -1; }
@@ -49,11 +75,8 @@ protected:
 private:
     void flush();
 
-    QString to_;
-    QString made_;
-    std::unique_ptr<Handle> handle_;
+    NewFile file_;
     QByteArray waiting_;
-    qint64 written_ = 0;
     std::exception_ptr failure_;
 };
 
