@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <vector>
 
-/// A table's rows in the local file by their natural keys, as far as the merge must know them to decide. It follows what
-/// the merge decides, so that a second source row of one key meets the first.
+/// A table's rows in the local file by their natural keys, as far as the merge must know them to decide. It follows
+/// what the merge decides, so that a second source row of one key meets the first.
 class LocalRows {
 public:
     struct Row {

@@ -43,8 +43,9 @@ MergeFile::MergeFile(StoreContext& context, const QString& path) {
     } catch (const Error& error) {
         if (error.fault() == Fault::NotADataFile) return;
         if (error.fault() != Fault::Damaged) throw;
-        throw Error(Fault::Damaged, QCoreApplication::translate("Merge", "The data file %1 is damaged.")
-                                        .arg(QDir::toNativeSeparators(path)));
+        throw Error(
+            Fault::Damaged,
+            QCoreApplication::translate("Merge", "The data file %1 is damaged.").arg(QDir::toNativeSeparators(path)));
     }
 }
 

@@ -18,8 +18,8 @@ public:
 };
 
 /// Brings the rows of a second data file into the local one, table by table. Each step is one transaction. A row that
-/// the file refuses costs that row, a step that cannot be written costs that step; either is told in a box when the step
-/// has ended, and the merge goes on. Rows that belong to such a row are left for the next merge.
+/// the file refuses costs that row, a step that cannot be written costs that step; either is told in a box when the
+/// step has ended, and the merge goes on. Rows that belong to such a row are left for the next merge.
 class MergeRun {
     Q_DECLARE_TR_FUNCTIONS(Merge)
 

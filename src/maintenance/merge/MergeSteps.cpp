@@ -209,9 +209,11 @@ std::vector<MergeStep> mergeSteps() {
         {QT_TRANSLATE_NOOP("Merge", "Merging Field Records..."),
          {byName("tblField", "FieldName", "FieldId", {"FieldName"})}},
         sizes(),
-        {QT_TRANSLATE_NOOP("Merge", "Merging Ratings Records..."), {byName("tblRating", "RatingText", nullptr, {"RatingText"})}},
+        {QT_TRANSLATE_NOOP("Merge", "Merging Ratings Records..."),
+         {byName("tblRating", "RatingText", nullptr, {"RatingText"})}},
         results(),
-        {QT_TRANSLATE_NOOP("Merge", "Merging School Name Records..."), {byName("tblSchoolInfo", "SchoolName", nullptr)}},
+        {QT_TRANSLATE_NOOP("Merge", "Merging School Name Records..."),
+         {byName("tblSchoolInfo", "SchoolName", nullptr)}},
         teamFields(),
         guardianLinks(),
         staff(),
@@ -220,5 +222,4 @@ std::vector<MergeStep> mergeSteps() {
         positionLinks(),
         certificationLinks(),
     };
-
 }

@@ -3,8 +3,8 @@
 #include <QString>
 #include <vector>
 
-/// What the merge of two data files does, as data: for each table by what a row is recognised, which of its columns name
-/// rows of other tables, and which of two copies stays.
+/// What the merge of two data files does, as data: for each table by what a row is recognised, which of its columns
+/// name rows of other tables, and which of two copies stays.
 
 /// What becomes of a row whose reference leads to no row of the local file.
 enum class Unknown {
@@ -26,9 +26,10 @@ struct ForeignKey {
 /// How the local copy of a row is found by the natural key. A live row always comes before a deleted one.
 enum class Match {
     Any,
+    // Of these a deleted row that has a live twin in its own file is not merged.
     LiveOrDeletedAlike,  ///< a live row meets live ones only; a deleted row meets deleted ones too
     LiveOrReused,        ///< a deleted row is written over, whatever the stamps, in place of a new one
-    PlayerText,          ///< by the text of a list entry; where that cannot be cut back, the same person is written over
+    PlayerText,  ///< by the text of a list entry; where that cannot be cut back, the same person is written over
 };
 
 /// What becomes of the local copy.
@@ -37,11 +38,11 @@ enum class Existing { OlderYields, Yields, Stays };
 struct MergeTable {
     const char* name;
     std::vector<const char*> naturalKey;
-    const char* id = nullptr;                  ///< the column by which other tables refer to it
-    std::vector<const char*> order{};          ///< of the source rows; rows of one place come by their keys
-    std::vector<ForeignKey> foreign{};         ///< a division stands before the teams within it
-    std::vector<const char*> required{};       ///< a row without one of these texts is not written
-    std::vector<const char*> neverWritten{};   ///< columns
+    const char* id = nullptr;                     ///< the column by which other tables refer to it
+    std::vector<const char*> order{};             ///< of the source rows; rows of one place come by their keys
+    std::vector<ForeignKey> foreign{};            ///< a division stands before the teams within it
+    std::vector<const char*> required{};          ///< a row without one of these texts is not written
+    std::vector<const char*> neverWritten{};      ///< columns
     std::vector<const char*> zeroUnlessNumber{};  ///< texts that a new row gets as "0" where they are no number
     std::vector<const char*> oneUnlessNumber{};   ///< the same with "1"
     Match match = Match::Any;
@@ -49,11 +50,11 @@ struct MergeTable {
     /// A column that tells rows of one natural key apart. A row takes the local one with the same value; else one whose
     /// own value no source row of that natural key has; else it is new.
     const char* finer = nullptr;
-    const char* age = nullptr;   ///< a column that is computed for each row written
-    bool addsDeleted = true;     ///< false: a deleted row that the local file does not know stays away
-    bool needsReference = false; ///< a row without any reference is not merged
-    bool stampedNow = false;     ///< written with the present time as its stamps
-    int noTime = 1;              ///< what a missing time stamp counts as in the local file
+    const char* age = nullptr;    ///< a column that is computed for each row written
+    bool addsDeleted = true;      ///< false: a deleted row that the local file does not know stays away
+    bool needsReference = false;  ///< a row without any reference is not merged
+    bool stampedNow = false;      ///< written with the present time as its stamps
+    int noTime = 1;               ///< what a missing time stamp counts as in the local file
 };
 
 struct MergeStep {

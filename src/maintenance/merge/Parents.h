@@ -14,8 +14,8 @@ struct LocalId {
 /// Leads the keys of the merge file to those of the local file, for each table that has been merged.
 class Parents {
 public:
-    /// A row of the merge file that was merged or left away. For a team `name` is its name and `division` its division's
-    /// key in the merge file.
+    /// A row of the merge file that was merged or left away. For a team `name` is its name and `division` its
+    /// division's key in the merge file.
     void remember(const char* table, qint64 source, LocalId local) { tables_[table].ids.insert(source, local); }
     void rememberTeam(qint64 source, qint64 division, const QString& name);
     void rememberLocalTeam(const QString& key, LocalId local) { localTeams_.insert(key, local); }

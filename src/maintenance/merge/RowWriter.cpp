@@ -24,8 +24,8 @@ QString quotedName(const QString& name) { return u'"' + name + u'"'; }
 }  // namespace
 
 PlayerAges::PlayerAges(MergeWork& work) : season_(work.context.globals.currentSeasonYear) {
-    Statement divisions = work.local.prepare(
-        QStringLiteral("SELECT DivisionId, DivAgeCutOffMonth, DivAgeCutOffDay FROM tblDivision"));
+    Statement divisions =
+        work.local.prepare(QStringLiteral("SELECT DivisionId, DivAgeCutOffMonth, DivAgeCutOffDay FROM tblDivision"));
     while (divisions.step()) divisions_.insert(divisions.number(0), {divisions.text(1), divisions.text(2)});
     Statement defaults = work.local.prepare(
         QStringLiteral("SELECT DefaultAgeCutoffMonth, DefaultAgeCutoffDay FROM tblDefaults ORDER BY rowid"));

@@ -15,11 +15,13 @@ using datafile::Value;
 
 namespace {
 
-const QDate noDay(1940, 1, 1);  ///< what a missing date stamp counts as in the local file
+const QDate unstamped(1940, 1, 1);  ///< what a missing date stamp counts as in the local file
 
-QString dayText(const QString& text) {
-    const Value day = datafile::fromDate(datafile::toDate(Value{text}));
-    return datafile::isNull(day) ? text : toText(day);
+/// A day in a key: as text where it is none, or as `otherwise`.
+QString dayText(const QString& text, const QDate& otherwise) {
+    const QDate day = toDate(Value{text});
+    if (!day.isValid() && !otherwise.isValid()) return text;
+    return toText(datafile::fromDate(day.isValid() ? day : otherwise));
 }
 
 /// Whether a list entry of the player leads back to the same three values.
@@ -72,14 +74,14 @@ public:
                             [this](int each) { return rows_->text(each).isEmpty(); });
     }
     /// The natural key with these in the place of the row's own references.
-    std::vector<QString> key(const std::array<qint64, mostReferences>* references) const {
+    std::vector<QString> key(const std::array<qint64, mostReferences>* references, const QDate& noDay = {}) const {
         std::vector<QString> parts;
         for (const KeyPart& part : keyParts_) {
             if (part.reference >= 0)
                 parts.push_back(QString::number(references ? (*references)[static_cast<size_t>(part.reference)]
                                                            : reference(static_cast<size_t>(part.reference))));
             else
-                parts.push_back(part.kind == ColumnType::Date ? dayText(rows_->text(part.place))
+                parts.push_back(part.kind == ColumnType::Date ? dayText(rows_->text(part.place), noDay)
                                                               : folded(rows_->text(part.place)));
         }
         return parts;
@@ -121,7 +123,7 @@ void TableMerge::readLocal() {
     for (Reader rows(work_.local, table_, {}); rows.next();) {
         const QDate day = rows.day();
         local_.add(joined(rows.key(nullptr)), {.id = rows.id(),
-                                               .day = day.isValid() ? day : noDay,
+                                               .day = day.isValid() ? day : unstamped,
                                                .time = rows.time(table_.noTime),
                                                .deleted = rows.deleted(),
                                                .finer = rows.finer()});
@@ -140,7 +142,7 @@ bool TableMerge::translate(const Reader& rows, SourceRow& row) {
         const LocalId found = work_.parents.find(column, source, sourceDivision, localDivision);
         row.references[i] = found.id;
         any = any || found.id != 0;
-        if (i == 0) sourceDivision = source, localDivision = found.id;
+        if (qstrcmp(column.parent, "tblDivision") == 0) sourceDivision = source, localDivision = found.id;
         const bool waits = source != 0 && found.id == 0 && work_.parents.isIncomplete(column.parent);
         incomplete_ = incomplete_ || waits;
         switch (column.unknown) {
@@ -157,6 +159,10 @@ void TableMerge::readSource() {
     QString order;
     for (const char* column : table_.order) order += u'"' + QString::fromLatin1(column) + QStringLiteral("\",");
     const bool isTeam = qstrcmp(table_.name, "tblTeam") == 0;
+    const bool asText =
+        table_.match == Match::PlayerText;  // a day that is none is written as today, but looked for as it is
+    const QDate noDay = asText ? QDate() : work_.context.clock.today();
+    const bool hasTwins = table_.match == Match::LiveOrDeletedAlike || table_.match == Match::LiveOrReused;
     for (Reader rows(work_.source, table_, order); rows.next();) {
         SourceRow& row = source_.emplace_back();
         row.id = rows.id();
@@ -164,12 +170,13 @@ void TableMerge::readSource() {
         row.time = rows.time(-1);
         row.deleted = rows.deleted();
         row.skipped = translate(rows, row) || !rows.complete();
-        std::vector<QString> key = rows.key(&row.references);
+        std::vector<QString> key = rows.key(&row.references, noDay);
         row.key = joined(key);
         row.finer = rows.finer();
         if (table_.finer && !row.skipped) finerOfSource_.insert(withFiner(row.key, row.finer));
+        if (hasTwins && !row.skipped && !row.deleted) liveOfSource_.insert(row.key);
         if (isTeam) row.teamName = key.back(), row.sourceDivision = rows.reference(0);
-        if (table_.match != Match::PlayerText) continue;
+        if (!asText) continue;
         const QDate birthDate = datafile::toDate(Value{key.back()});
         if (cutsBack(rows.text(0), rows.text(1), birthDate)) continue;
         if (!birthDate.isValid()) key.back() = toText(datafile::fromDate(work_.context.clock.today()));
@@ -212,7 +219,7 @@ LocalRows::Row TableMerge::asWritten(const SourceRow& row) const {
 void TableMerge::decide() {
     for (size_t i = 0; i < source_.size(); ++i) {
         const SourceRow& row = source_[i];
-        if (row.skipped) continue;
+        if (row.skipped || (row.deleted && liveOfSource_.contains(row.key))) continue;
         const Choice choice = choose(row);
         if (choice.local < 0) {
             if (row.deleted && !table_.addsDeleted) continue;

@@ -63,6 +63,7 @@ private:
     LocalRows local_;
     std::vector<SourceRow> source_;
     QSet<QString> finerOfSource_;
+    QSet<QString> liveOfSource_;
     std::vector<Write> writes_;
     bool incomplete_ = false;
 };

@@ -29,8 +29,8 @@ void removeSidecars(const QString& path) {
     throw Error(fault, error.text());
 }
 
-/// Keeps other processes from writing a data file, by the lock that readers of the engine hold; the file itself stays as
-/// it is.
+/// Keeps other processes from writing a data file, by the lock that readers of the engine hold; the file itself stays
+/// as it is.
 class QuietFile {
 public:
     explicit QuietFile(const QString& path) : id_(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC)) {
@@ -52,7 +52,8 @@ public:
     QuietFile& operator=(const QuietFile&) = delete;
 
 private:
-    /// Held until this file is closed, whatever else opens and closes it. A file system without locks has none to respect.
+    /// Held until this file is closed, whatever else opens and closes it. A file system without locks has none to
+    /// respect.
     bool lock(short kind, off_t from, off_t size) const {
         struct flock range {};
         range.l_type = kind;
