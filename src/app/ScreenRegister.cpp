@@ -1,6 +1,8 @@
 #include "app/ScreenRegister.h"
 
 #include "league/frmTeams.h"
+#include "maintenance/frmBackup.h"
+#include "maintenance/frmNewSeason.h"
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
 #include "setup/frmOptions.h"
@@ -24,6 +26,8 @@ void registerScreens(Program& program) {
     screens.addScreen("frmTeams", [&program] { return std::make_unique<frmTeams>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
+    screens.addForm("frmBackup", [&program] { return std::make_unique<frmBackup>(program); });
+    screens.addForm("frmNewSeason", [&program] { return std::make_unique<frmNewSeason>(program); });
     screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });
     screens.addForm("frmOptions.CustomFields",
                     [&program] { return std::make_unique<frmOptions>(program, frmOptions::Page::CustomFields); });
