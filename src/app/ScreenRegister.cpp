@@ -2,6 +2,7 @@
 
 #include "league/frmTeams.h"
 #include "maintenance/frmBackup.h"
+#include "maintenance/frmMerge.h"
 #include "maintenance/frmNewSeason.h"
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
@@ -27,6 +28,7 @@ void registerScreens(Program& program) {
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
     screens.addForm("frmBackup", [&program] { return std::make_unique<frmBackup>(program); });
+    screens.addForm("frmMerge", [&program] { return std::make_unique<frmMerge>(program); });
     screens.addForm("frmNewSeason", [&program] { return std::make_unique<frmNewSeason>(program); });
     screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });
     screens.addForm("frmOptions.CustomFields",

@@ -3,7 +3,7 @@
 #include <QTemporaryDir>
 #include <random>
 
-#include "maintenance/merge/MergeRun.h"
+#include "merge/MergeInto.h"
 #include "merge/PlainMerge.h"
 #include "sample_league/SampleLeague.h"
 #include "support/Printing.h"
@@ -186,11 +186,6 @@ private:
     int names_ = 0;
 };
 
-struct Unwatched final : MergeProgress {
-    void begin(const QString&) override {}
-    void reached(double, bool) override {}
-};
-
 /// An officer's file, and what is needed to merge another into it.
 struct Desk {
     Desk(const QString& league, const char* name) {
@@ -206,10 +201,7 @@ struct Desk {
         file["tblDefaults"] = plain::readTable(*database, "tblDefaults");
         return file;
     }
-    void merge(const Desk& other) {
-        Unwatched progress;
-        MergeRun(context, *other.database, progress).run();
-    }
+    void merge(const Desk& other) { mergeInto(context, *other.database); }
 
     QTemporaryDir folder;
     datafile::Workspace workspace;

@@ -140,16 +140,15 @@ void Guide::watch() {
     QWidget* dialog = QApplication::activeModalWidget();
     if (dialog != seen_) {
         seen_ = dialog;
-        met_ = false;
         standing_.start();
     }
-    if (!dialog) return;
+    if (!dialog || dialog->objectName() == "frmStatusBar") return;  // closes by itself
     const auto* box = qobject_cast<QMessageBox*>(dialog);
     const QString name = "\"" + dialog->windowTitle() + (box ? "\" (" + box->text() + ')' : QString("\""));
     if (standing_.hasExpired(patience)) fail(name + " did not close.");
-    if (met_) return;
+    if (std::find(met_.begin(), met_.end(), dialog) != met_.end()) return;
     if (!dialog->isActiveWindow()) return dialog->activateWindow();
-    met_ = true;
+    met_.emplace_back(dialog);
     if (!act_) fail(name + " came up.");
     std::exchange(act_, {})();
 }

@@ -1,5 +1,7 @@
 #include "tour/Tour.h"
 
+#include "tour/Chapters.h"
+
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -84,7 +86,16 @@ void Tour::take() {
     addSchool();
     previewList();
     saveList();
+    goToNavigator();
+    mergeSecondFile(guide_);
+    guide_.click("cmdReports");
+    guide_.waitForScreen("frmReports");
     exit();
+}
+
+void Tour::goToNavigator() {
+    guide_.clickTool("btnStartUp");
+    guide_.waitForScreen("frmStartUp");
 }
 
 void Tour::start() {

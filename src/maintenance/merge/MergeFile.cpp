@@ -1,6 +1,7 @@
 #include "maintenance/merge/MergeFile.h"
 
 #include "maintenance/merge/MergeSteps.h"
+#include "maintenance/work/Backup.h"
 #include "platform/datafile/DataFile.h"
 #include "store/Schema.h"
 
@@ -16,7 +17,6 @@ namespace {
 
 constexpr double firstVersion = 1.38;
 constexpr qsizetype numberAt = 8;  ///< in "Version 1.39"
-constexpr qint64 mostUnpacked = qint64{2} << 30;
 constexpr char memberName[] = "Kestrelmoor.kmr";
 
 bool hasTable(const Database& database, const QString& name) {
@@ -60,8 +60,8 @@ MergeFile::Code MergeFile::judge(const Database& database) {
     return Code::Fits;
 }
 
-archive::Fault unpackForMerge(const QString& archive, const QString& to) {
+archive::Fault unpackForMerge(const QString& archive, const QString& to, const archive::Progress& progress) {
     QDir().mkpath(QFileInfo(to).absolutePath());
     for (const char* part : {"", "-journal", "-wal", "-shm"}) QFile::remove(to + QLatin1String(part));
-    return archive::unpack(archive, QString::fromLatin1(memberName), to, mostUnpacked);
+    return archive::unpack(archive, QString::fromLatin1(memberName), to, largestDataFile, progress);
 }

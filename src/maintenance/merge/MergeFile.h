@@ -30,4 +30,4 @@ private:
 
 /// Unpacks the data file in a backup archive as the file `to`, in a folder that is made when it is missing. A file that
 /// is there is deleted first.
-archive::Fault unpackForMerge(const QString& archive, const QString& to);
+archive::Fault unpackForMerge(const QString& archive, const QString& to, const archive::Progress& progress = {});

@@ -12,23 +12,39 @@ constexpr double wholeOfBar = 26;  ///< steps that would fill it
 constexpr double decided = 0.4;    ///< of a step, when its rows are read and judged
 constexpr qsizetype mostErrorsTold = 10;
 
+}  // namespace
+
 QString numbered(const Error& error) {
     return QStringLiteral("%1-%2").arg(static_cast<int>(error.fault())).arg(error.text());
 }
 
-}  // namespace
-
 MergeRun::MergeRun(StoreContext& context, const datafile::Database& source, MergeProgress& progress)
     : work_{context, context.workspace.openDatabase(context.dataFilePath), source}, progress_(progress) {}
 
-void MergeRun::run() {
-    size_ = 1 / wholeOfBar;
-    int number = 0;
-    for (const MergeStep& step : mergeSteps()) {
-        from_ = ++number * size_;
+void MergeRun::run() { run(0, mergeSteps().size()); }
+
+void MergeRun::run(size_t first, size_t last) {
+    constexpr double size = 1 / wholeOfBar;
+    const std::vector<MergeStep> steps = mergeSteps();
+    for (size_t i = 0; i < last; ++i) {
+        if (i < first) {
+            takeAsDone(steps[i]);
+            continue;
+        }
+        from_ = static_cast<double>(i + 1) * size;
+        size_ = size;
         progress_.reached(from_, false);
-        progress_.begin(tr(step.text));
-        runStep(step);
+        progress_.begin(tr(steps[i].text));
+        runStep(steps[i]);
+    }
+}
+
+void MergeRun::takeAsDone(const MergeStep& step) {
+    for (const MergeTable& about : step.tables) {
+        TableMerge table(work_, about);
+        table.readLocal();
+        table.readSource();
+        table.remember();
     }
 }
 
@@ -43,14 +59,16 @@ void MergeRun::runStep(const MergeStep& step) {
 
 bool MergeRun::decide(const Tables& tables, QStringList& errors) {
     try {
+        const double part = size_ * decided / static_cast<double>(3 * tables.size());
+        double reached = from_;
         for (const auto& table : tables) {
             table->readLocal();
-            progress_.reached(from_ + size_ * decided / 3, false);
+            progress_.reached(reached += part, false);
             table->readSource();
-            progress_.reached(from_ + size_ * decided * 2 / 3, false);
+            progress_.reached(reached += part, false);
             table->decide();
+            progress_.reached(reached += part, false);
         }
-        progress_.reached(from_ + size_ * decided, false);
         return true;
     } catch (const Error& error) {
         for (const auto& table : tables) table->drop();

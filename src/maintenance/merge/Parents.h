@@ -19,8 +19,8 @@ public:
     void remember(const char* table, qint64 source, LocalId local) { tables_[table].ids.insert(source, local); }
     void rememberTeam(qint64 source, qint64 division, const QString& name);
     void rememberLocalTeam(const QString& key, LocalId local) { localTeams_.insert(key, local); }
-    /// Some rows of the table could not be merged.
-    void setIncomplete(const char* table) { tables_[table].incomplete = true; }
+    /// Whether some rows of the table could not be merged.
+    void setIncomplete(const char* table, bool incomplete) { tables_[table].incomplete = incomplete; }
 
     /// `sourceDivision` and `localDivision` are those of the row that refers to a team.
     LocalId find(const ForeignKey& column, qint64 source, qint64 sourceDivision, qint64 localDivision) const;

@@ -269,7 +269,7 @@ void TableMerge::drop() {
 }
 
 void TableMerge::remember() {
-    if (incomplete_) work_.parents.setIncomplete(table_.name);
+    work_.parents.setIncomplete(table_.name, incomplete_);
     if (!table_.id) return;
     const auto localId = [this](const QString& key) {
         const int place = local_.find(key);
