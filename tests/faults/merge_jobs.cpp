@@ -40,7 +40,7 @@ QString told(StoreContext& context) {
 
 FaultJob jobFor(size_t step) {
     return {.name = "merge_" + QString::number(step + 1),
-            .samples = 3,
+            .samples = 2,
             .prepare = [step](const LeagueFolder& folder) { prepare(folder, step); },
             .begin =
                 [step](StoreContext& context) {

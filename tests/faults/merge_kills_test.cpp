@@ -32,7 +32,7 @@ Digests digestsOf(const QString& path) {
             QCryptographicHash hash(QCryptographicHash::Md5);
             datafile::Statement rows = database.prepare(QString("SELECT * FROM %1 ORDER BY rowid").arg(table.name));
             while (rows.step())
-                for (int i = 0; i < rows.columns(); ++i) hash.addData(rows.text(i).toUtf8() + '|');
+                for (int i = 0; i < rows.columns(); ++i) hash.addData((rows.text(i) + '|').toUtf8());
             digests[table.name] = hash.result();
         }
     return digests;

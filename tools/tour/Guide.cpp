@@ -150,7 +150,7 @@ void Guide::watch() {
     if (!dialog->isActiveWindow()) return dialog->activateWindow();
     met_.emplace_back(dialog);
     if (!act_) fail(name + " came up.");
-    std::exchange(act_, {})();
+    QTimer::singleShot(0, &watch_, std::exchange(act_, {}));  // apart from this timer, which is to watch meanwhile
 }
 
 namespace {

@@ -42,7 +42,7 @@ void runMerge(Guide& guide, const QString& path) {
             guide.type(path);
             guide.key(Qt::Key_Return);
         });
-        guide.click(*qobject_cast<QMessageBox&>(guide.front()).button(QMessageBox::Yes));
+        guide.click(*dynamic_cast<QMessageBox&>(guide.front()).button(QMessageBox::Yes));
     });
     guide.click("cmdMerge");
     auto& status = guide.control<frmUpdateStatus>("frmUpdateStatus");
@@ -67,6 +67,7 @@ void mergeSecondFile(Guide& guide) {
     guide.waitForScreen("frmStartUp");
     guide.click("cmdRegister");
     guide.waitForScreen("frmRegister");
+    guide.clickTab("Player Registrations");
     for (const auto& [entry, field, text] :
          {std::tuple{"thistle", "txtPlayerFirstName", "Marigold"}, {"winterb", "txtPlayerAddress1", "7 Mill Road"}}) {
         guide.key(Qt::Key_U, Qt::AltModifier);
