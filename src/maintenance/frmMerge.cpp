@@ -1,12 +1,14 @@
 #include "maintenance/frmMerge.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "maintenance/merge/MergeFile.h"
 #include "maintenance/merge/MergeRun.h"
@@ -21,6 +23,7 @@ namespace {
 
 constexpr char workFolder[] = "Merge File";
 constexpr int whole = 100;
+constexpr int mostMilliseconds = 200;  ///< that a desktop may take to bring up a window
 
 /// For the time in which the chosen file is unpacked, copied and checked: the busy pointer, and a bar that takes the
 /// place of all input.
@@ -30,6 +33,12 @@ public:
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
         bar_.setModal(true);
         bar_.Init(text, whole);
+        // What follows may take a while before it shows anything: the bar is to be seen by then.
+        for (const QDeadlineTimer patience(mostMilliseconds); !patience.hasExpired();) {
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            if (bar_.windowHandle() && bar_.windowHandle()->isExposed()) break;
+        }
+        bar_.repaint();
     }
     ~Reading() {
         bar_.Done();
@@ -98,12 +107,12 @@ frmMerge::frmMerge(Program& program) : program_(program) {
 }
 
 QWidget* frmMerge::buttonRow() {
-    auto* buttons = new QWidget(this);
-    auto* row = new QHBoxLayout(buttons);
+    buttons_ = new QWidget(this);
+    auto* row = new QHBoxLayout(buttons_);
     row->setContentsMargins({});
     row->addStretch(1);
     const auto add = [&](const char* name, const QString& caption, auto press) {
-        auto* button = new QPushButton(caption, buttons);
+        auto* button = new QPushButton(caption, buttons_);
         button->setObjectName(name);
         connect(button, &QPushButton::clicked, this, press);
         row->addWidget(button);
@@ -113,7 +122,7 @@ QWidget* frmMerge::buttonRow() {
     merge->setDefault(true);
     merge->setFocus();
     add("cmdClose", tr("&Close"), &frmMerge::reject);
-    return buttons;
+    return buttons_;
 }
 
 void frmMerge::reject() {
@@ -185,9 +194,9 @@ std::unique_ptr<MergeFile> frmMerge::open(const QString& path) {
     std::unique_ptr<MergeFile> file;
     QString failure;
     {
-        const Reading bar(tr("Reading the data that is to be merged..."));
+        Reading bar(tr("Reading the data that is to be merged..."));
         try {
-            file = std::make_unique<MergeFile>(program_.store, path);
+            file = std::make_unique<MergeFile>(program_.store, path, [&bar](int percent) { bar.show(percent); });
         } catch (const datafile::Error& error) {
             failure = numbered(error);
         }
@@ -221,7 +230,8 @@ std::unique_ptr<MergeFile> frmMerge::open(const QString& path) {
 void frmMerge::run(const MergeFile& file) {
     auto* status = new frmUpdateStatus(tr("Merge Kestrelmoor Database"), this);
     status->setAttribute(Qt::WA_DeleteOnClose);
-    setEnabled(false);
+    const QList<QWidget*> parts{findChild<QPlainTextEdit*>("txtInstructions"), buttons_};
+    for (QWidget* part : parts) part->setEnabled(false);
     status->begin();
     StatusWindow progress(*status);
     try {
@@ -230,6 +240,6 @@ void frmMerge::run(const MergeFile& file) {
         program_.dialogs().warning(tr("Database Error"), numbered(error));
     }
     QCoreApplication::processEvents();
-    setEnabled(true);
+    for (QWidget* part : parts) part->setEnabled(true);
     status->finish(tr("Merge Complete"));
 }

@@ -29,5 +29,6 @@ private:
     void run(const MergeFile& file);
 
     Program& program_;
+    QWidget* buttons_ = nullptr;
     bool running_ = false;
 };

@@ -145,7 +145,7 @@ TEST_F(MergeScreen, MergesADataFileOrABackupAndMayGoOn) {
                 std::optional<bool> isHeld;
                 const auto watch = [&] {
                     if (!form->findChild<frmUpdateStatus*>()) return;
-                    isHeld = !form->isEnabled();
+                    isHeld = !control(form, "cmdMerge")->isEnabled();
                     form->reject();
                     *isHeld = *isHeld && form->isVisible();
                 };
@@ -155,7 +155,7 @@ TEST_F(MergeScreen, MergesADataFileOrABackupAndMayGoOn) {
                 press(form, "cmdMerge");
                 timer.stop();
                 EXPECT_EQ(isHeld, true) << "took input while it ran";
-                EXPECT_TRUE(form->isEnabled());
+                EXPECT_TRUE(control(form, "cmdMerge")->isEnabled());
                 auto* status = form->findChild<frmUpdateStatus*>();
                 ASSERT_TRUE(status);
                 EXPECT_EQ(status->windowTitle(), "Merge Kestrelmoor Database");

@@ -32,11 +32,13 @@ bool hasTable(const Database& database, const QString& name) {
 
 }  // namespace
 
-MergeFile::MergeFile(StoreContext& context, const QString& path) {
+MergeFile::MergeFile(StoreContext& context, const QString& path, const std::function<void(int)>& progress) {
+    constexpr int copied = 40;
     try {
         datafile::inspectDataFile(path);
         const QString copy = folder_.filePath(QString::fromLatin1(memberName));
         datafile::Workspace::copyUntouched(path, copy);
+        if (progress) progress(copied);
         datafile::checkIntegrity(copy, datafile::Check::Quick);
         database_.emplace(context.workspace.openDatabase(copy));
         code_ = judge(*database_);

@@ -4,6 +4,7 @@
 #include "store/StoreContext.h"
 
 #include <QTemporaryDir>
+#include <functional>
 #include <optional>
 
 /// The data file that is to be merged: a private copy of it, checked, so that nothing is ever written to the file that
@@ -13,7 +14,8 @@ public:
     enum class Code { Fits = 0, Older = 1, NotOurs = 2 };
 
     /// Raises datafile::Error when the file cannot be copied, is being written, or is damaged.
-    MergeFile(StoreContext& context, const QString& path);
+    /// `progress` is told how far it has come, 0 to 100.
+    MergeFile(StoreContext& context, const QString& path, const std::function<void(int)>& progress = {});
 
     /// Whether it can be merged: a data file of "Version 1.38" or later, with every table and column that is merged.
     Code code() const { return code_; }
