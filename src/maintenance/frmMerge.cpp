@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -103,7 +104,8 @@ frmMerge::frmMerge(Program& program) : program_(program) {
     layout->addWidget(heading);
     layout->addWidget(instructions, 1);
     layout->addWidget(buttonRow());
-    resize(620, 440);
+    constexpr int titleBar = 40;  // of the desktop's window manager
+    resize(QSize(620, 400).boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(0, titleBar)));
 }
 
 QWidget* frmMerge::buttonRow() {
