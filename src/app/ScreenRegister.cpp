@@ -4,6 +4,7 @@
 #include "equipment/frmEquipment.h"
 #include "league/frmTeams.h"
 #include "maintenance/frmBackup.h"
+#include "maintenance/frmMerge.h"
 #include "maintenance/frmNewSeason.h"
 #include "ratings/frmRatings.h"
 #include "registration/frmRegister.h"
@@ -36,6 +37,7 @@ void registerScreens(Program& program) {
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
     screens.addForm("frmBackup", [&program] { return std::make_unique<frmBackup>(program); });
+    screens.addForm("frmMerge", [&program] { return std::make_unique<frmMerge>(program); });
     screens.addForm("frmNewSeason", [&program] { return std::make_unique<frmNewSeason>(program); });
     screens.addForm("frmExport", [&program] { return std::make_unique<frmExport>(program); });
     screens.addForm("frmImport", [&program] { return std::make_unique<frmImport>(program); });

@@ -54,6 +54,12 @@ void frmUpdateStatus::showPart(const QString& text) {
     lblStatusText_->repaint();
 }
 
+void frmUpdateStatus::showPart(int percent) {
+    if (percent == prgStatusBar_->value()) return;
+    prgStatusBar_->setValue(percent);
+    prgStatusBar_->repaint();
+}
+
 void frmUpdateStatus::showProgress(int percent) {
     prgStatusBar_->setValue(percent);
     paintNow();

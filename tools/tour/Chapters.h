@@ -13,6 +13,9 @@ void visitEquipment(Guide& guide);
 /// A registration form, a roster and the balance report in their previews.
 void visitReports(Guide& guide);
 
+/// A second officer's file is made and merged.
+void mergeSecondFile(Guide& guide);
+
 /// Backs the data file up into the archive, and then opens the season of the year after it, which leaves little of the
 /// league as it was.
 void visitMaintenance(Guide& guide, const QString& archive);

@@ -18,7 +18,7 @@ void backUp(Guide& guide, const QString& archive) {
         guide.key(Qt::Key_Return);
     };
     const auto name = [&] {
-        guide.then(told);
+        guide.next(told);
         auto& box = guide.control<QLineEdit>("fileNameEdit");
         guide.require(box.text() == "Kestrelmoor.zip", "The name that is offered");
         box.setFocus();
@@ -28,7 +28,7 @@ void backUp(Guide& guide, const QString& archive) {
     };
     guide.during([&] { guide.click("cmdBackup"); }, "The choice of what to do",
                  [&] {
-                     guide.then(name);
+                     guide.next(name);
                      guide.click("optType3");
                      guide.click("optType0");
                      guide.picture("backup");

@@ -93,14 +93,19 @@ void Tour::take() {
     addSchool();
     previewList();
     saveList();
-    guide_.clickTool("btnStartUp");
-    guide_.waitForScreen("frmStartUp");
+    goToNavigator();
     visitTeams(guide_);
     visitEquipment(guide_);
+    mergeSecondFile(guide_);
     visitMaintenance(guide_, QFileInfo(pdf_).absolutePath() + "/Kestrelmoor.zip");  // the last: it changes the league
     guide_.click("cmdReports");
     guide_.waitForScreen("frmReports");
     exit();
+}
+
+void Tour::goToNavigator() {
+    guide_.clickTool("btnStartUp");
+    guide_.waitForScreen("frmStartUp");
 }
 
 void Tour::start() {
