@@ -21,7 +21,8 @@ void addRow(Guide& guide, Grid& grid) {
     QApplication::sendEvent(grid.viewport(), &event);
     auto& menu = guide.control<QMenu>("MnuFGridRows");
     guide.waitFor([&] { return menu.isVisible(); }, "The menu of the rows");
-    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&guide.control<QAction>("MnuFGridAddRow")).center());
+    QTest::mouseClick(&menu, Qt::LeftButton, {},
+                      menu.actionGeometry(&guide.control<QAction>("MnuFGridAddRow")).center());
     guide.waitForFocus("T1");
 }
 
@@ -37,9 +38,9 @@ void addGame(Guide& guide) {
         if (*cell) guide.type(cell);
         guide.key(Qt::Key_Return);
     }
-    guide.require(grid.rows().back().cells.join('|') ==
-                      QLatin1String("5/23/26|Saturday|05:30 PM|Hawks|Coyotes|Kestrel Park 1"),
-                  "The game as it was typed, with its week day");
+    guide.require(
+        grid.rows().back().cells.join('|') == QLatin1String("5/23/26|Saturday|05:30 PM|Hawks|Coyotes|Kestrel Park 1"),
+        "The game as it was typed, with its week day");
     guide.picture("schedule-game");
     guide.click("cmdSave");
     guide.waitForStatus("Schedule Saved");
