@@ -6,7 +6,12 @@
 #include "shell/Program.h"
 
 RatingPane::RatingPane(Program& program, PaneText text)
-    : RecordPane(program, std::move(text), Save | Cancel | Refresh), rating_(program.store), player_(program.store) {}
+    : RecordPane(program, std::move(text), Save | Cancel | Refresh), rating_(program.store), player_(program.store) {
+    connect(this, &RecordPane::stateChanged, this, [this] {
+        if (isEditing() || !std::exchange(saved_, false)) return;
+        if (isVisible()) focusSearch();
+    });
+}
 
 datafile::Database RatingPane::database() const {
     return program().store.workspace.openDatabase(program().store.dataFilePath);
@@ -110,8 +115,7 @@ bool RatingPane::write() {
     datafile::Transaction transaction(database());
     rating_.SaveARRecord();
     transaction.commit();
-    QMetaObject::invokeMethod(this, &RecordPane::focusSearch, Qt::QueuedConnection);
-    return !rating_.isChanged();
+    return saved_ = !rating_.isChanged();
 }
 
 void RatingPane::clear() {

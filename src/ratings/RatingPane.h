@@ -65,4 +65,5 @@ private:
     QString entry_;
     QString comments_;
     bool commentsTyped_ = false;
+    bool saved_ = false;  ///< just now; the focus goes back to the search list
 };

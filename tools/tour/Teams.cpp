@@ -104,6 +104,7 @@ void rate(Guide& guide) {
     save(guide);
     guide.clickTab("Volunteer Ratings");
     pick(guide, Qt::Key_U, "cboUmpireSearchList", "winterb");
+    guide.require(guide.control<QLabel>("lblVolFirstName").text() == "Rowan", "The coach among the volunteers");
     guide.key(Qt::Key_X, Qt::AltModifier);
     guide.fill("cboCoachAbilityRating", "Fair");
     guide.picture("ratings-volunteer");
