@@ -79,7 +79,7 @@ void judge(const std::vector<qint64>& before, const std::vector<qint64>& now, st
 }
 
 TEST(SeasonKill, LeavesWholeStepsBehind) {
-    if (qgetenv("KESTREL_FAULTS") != "full") GTEST_SKIP() << "only with KESTREL_FAULTS=full";
+    if (!isFullSweep()) GTEST_SKIP() << "only with KESTREL_FAULTS=full";
     const QTemporaryDir made;
     const QString original = made.filePath("league.kmr");
     makeSampleLeague(original, {.players = players});

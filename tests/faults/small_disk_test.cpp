@@ -109,7 +109,7 @@ TEST(SmallDisk, LosesNothingWhateverIsWritten) {
     const QMap<QString, QString> before = original.contents();
     const qint64 size = QFileInfo(original.dataFile()).size();
     ASSERT_LT(size * 6, diskSize);
-    const qint64 stride = qgetenv("KESTREL_FAULTS") == "full" ? size / 12 : size / 2;
+    const qint64 stride = isFullSweep() ? size / 12 : size / 2;
     for (const Writer& writer : writers) {
         int failures = 0;
         int successes = 0;
