@@ -1,8 +1,13 @@
 #include "app/ScreenRegister.h"
 
+#include "league/frmFieldAvailability.h"
 #include "league/frmTeams.h"
+#include "ratings/frmRatings.h"
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
+#include "schedule/frmResults.h"
+#include "schedule/frmExport.h"
+#include "schedule/frmImport.h"
 #include "setup/frmOptions.h"
 #include "setup/frmSetup.h"
 #include "shell/EmptyScreen.h"
@@ -18,12 +23,17 @@ void registerScreens(Program& program) {
         const QString name = screen.name;
         screens.addScreen(name, [&program, name] { return std::make_unique<EmptyScreen>(program, name); });
     }
+    screens.addScreen("frmRatings", [&program] { return std::make_unique<frmRatings>(program); });
     screens.addScreen("frmRegister", [&program] { return std::make_unique<frmRegister>(program); });
     screens.addScreen("frmReports", [&program] { return std::make_unique<frmReports>(program); });
+    screens.addScreen("frmResults", [&program] { return std::make_unique<frmResults>(program); });
     screens.addScreen("frmSetup", [&program] { return std::make_unique<frmSetup>(program); });
     screens.addScreen("frmTeams", [&program] { return std::make_unique<frmTeams>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
+    screens.addForm("frmExport", [&program] { return std::make_unique<frmExport>(program); });
+    screens.addForm("frmImport", [&program] { return std::make_unique<frmImport>(program); });
+    screens.addForm("frmFieldAvailability", [] { return std::make_unique<frmFieldAvailability>(); });
     screens.addForm("frmOptions", [&program] { return std::make_unique<frmOptions>(program); });
     screens.addForm("frmOptions.CustomFields",
                     [&program] { return std::make_unique<frmOptions>(program, frmOptions::Page::CustomFields); });

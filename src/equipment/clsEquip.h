@@ -42,7 +42,10 @@ public:
     /// By the text of a list entry, "Bat - Aluminum". The first hyphen ends the item name, so an item with one in its
     /// name is not found.
     bool FindEquipmentRecord(const QString& entry, bool show, bool load);
-    /// Deleted rows too.
+    /// Deleted rows too, and items with a hyphen in the name: a merge that missed them would add them again and again.
     bool FindEquipmentMergeRecord(const QString& entry, bool show, bool load);
     bool FindEquipmentRecordById(int id, bool show, bool load) { return findById(EquipmentId, id, show, load); }
+
+private:
+    bool findEntry(const QString& criteria, const QString& entry, bool show, bool load);
 };

@@ -1,5 +1,6 @@
 #include "league/DivisionPane.h"
 
+#include "equipment/clsEquipmentAssignment.h"
 #include "league/frmDifficultyRating.h"
 #include "platform/text/Money.h"
 #include "platform/widgets/ChoiceBox.h"
@@ -12,6 +13,12 @@ namespace {
 
 /// The one organization that gives its divisions official names.
 constexpr char namingOrganization[] = "Little League";
+
+/// A league belongs to it by its affiliation or is it by its own name.
+bool hasOfficialNames(const Globals& globals) {
+    return globals.organizationAffiliation == QLatin1String(namingOrganization) ||
+           globals.organizationName == QLatin1String(namingOrganization);
+}
 
 /// An age of which none shows as 0.
 Binding ageBinding(Text& age) {
@@ -43,8 +50,7 @@ Form* DivisionPane::buildForm() {
     addDivisionFrame(builder.column(3));
     addUmpiresFrame(builder);
     addRegistrationFrame(builder.column(2));
-    form->setFieldVisible(QStringLiteral("cboOfficialDivisionName"),
-                          program().globals().organizationAffiliation == QLatin1String(namingOrganization));
+    form->setFieldVisible(QStringLiteral("cboOfficialDivisionName"), hasOfficialNames(program().globals()));
     connect(form, &Form::changed, this, [this](const QString& field) {
         if (field == u"cboDivAgeCutOffMonth") showDays();
     });
@@ -89,7 +95,7 @@ void DivisionPane::addRegistrationFrame(FormBuilder& builder) {
         .choice("cboOfficialDivisionName", tr("Official Division Name"), division_.OfficialDivisionName,
                 officialNames(), ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
         .frame(tr("Comments"), 1)
-        .comments("txtDivComments", {}, division_.DivComments, FilterTextFull);
+        .comments("txtDivComments", {}, division_.DivComments, FilterTextWide);
 }
 
 QStringList DivisionPane::list(const QString& query, const QString& column) const {
@@ -180,13 +186,8 @@ QString DivisionPane::deleteQuestion() const {
 }
 
 bool DivisionPane::mayDelete() {
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
-    const datafile::Recordset held = database.openRecordset(
-        "SELECT * FROM tblEquipmentAssignment WHERE [TeamId] = 0 AND [PlayerId] = 0 AND [VolId] = 0 AND [DeletedFlag] "
-        "= False AND "
-        "[DivisionId] = " +
-        QString::number(division_.DivId));
-    if (!held.eof()) {
+    clsEquipmentAssignment assignments(program().store);
+    if (assignments.FindEquipmentAssignment({.divisionId = division_.DivId}, false, false)) {
         program().dialogs().error(tr("Delete Error..."),
                                   tr("The Division being deleted has Equipment \nassigned to it.  Delete any "
                                      "equipment assignments\nbefore deleting this record."));

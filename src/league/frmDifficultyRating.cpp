@@ -18,7 +18,7 @@ frmDifficultyRating::frmDifficultyRating(clsDivision& division, const QString& r
     name->setTextFormat(Qt::PlainText);
     comments_->setObjectName(QStringLiteral("txtRatingComments"));
     comments_->setAccessibleName(tr("Comments"));
-    comments_->setLimits(FilterTextFull, commentLength);
+    comments_->setLimits(FilterTextWide, commentLength);
     auto* fields = new QFormLayout;
     fields->setHorizontalSpacing(spacing::label);
     fields->setVerticalSpacing(spacing::line);

@@ -2,7 +2,7 @@
 
 #include "shell/RecordScreen.h"
 
-/// The league's structure: divisions, and what belongs to them.
+/// The league's structure: divisions, their teams with staff and players, and the fields they play on.
 class frmTeams final : public RecordScreen {
     Q_OBJECT
 

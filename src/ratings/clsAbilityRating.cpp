@@ -55,12 +55,19 @@ QString clsAbilityRating::read(const char* table, const char* column, const QStr
     return ReadFieldValue(context(), context().dataFilePath, QLatin1String(column), QLatin1String(table), criteria);
 }
 
+namespace {
+
+/// A word that was deleted still tells what was graded with it, where no other one does.
+constexpr char scale[] = "SELECT * FROM tblRating ORDER BY [DeletedFlag]";
+
+}  // namespace
+
 int clsAbilityRating::FindRatingValue(const QString& text) const {
-    return toWhole(read("tblRating", "RatingValue", matches("RatingText", text))).value_or(0);
+    return toWhole(read(scale, "RatingValue", matches("RatingText", text))).value_or(0);
 }
 
 QString clsAbilityRating::FindRatingText(int value) const {
-    const QString text = read("tblRating", "RatingText", matches("RatingValue", value));
+    const QString text = read(scale, "RatingText", matches("RatingValue", value));
     return text.isEmpty() ? QStringLiteral("Rating Not Found") : text;
 }
 

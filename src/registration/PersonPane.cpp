@@ -4,6 +4,7 @@
 
 #include "platform/text/KeyFilters.h"
 #include "platform/widgets/FormBuilder.h"
+#include "ratings/clsAbilityRating.h"
 #include "shell/Bound.h"
 #include "shell/Program.h"
 #include "shell/Screens.h"
@@ -96,20 +97,17 @@ void PersonPane::revive(int revivedId) {
 }
 
 bool PersonPane::mayDelete() {
-    const datafile::Recordset held = database().openRecordset(
-        QStringLiteral("SELECT * FROM tblEquipmentAssignment WHERE ") + live(matches(person_.idColumn, id())));
-    if (held.eof()) return true;
+    clsEquipmentAssignment assignments(program().store);
+    if (!assignments.FindEquipmentAssignment(holder(), false, false)) return true;
     program().dialogs().error(tr("Delete Error..."), person_.equipmentError);
     cancel();
     return false;
 }
 
 void PersonPane::erase() {
-    const datafile::Database file = database();
-    datafile::Transaction transaction(file);
-    datafile::Recordset ratings = file.openRecordset(QStringLiteral("SELECT * FROM tblAbilityRating WHERE ") +
-                                                     live(matches(person_.idColumn, id())));
-    softDeleteAll(ratings, program().clock());
+    datafile::Transaction transaction(database());
+    clsAbilityRating ratings(program().store);
+    if (findRating(ratings)) ratings.DeleteARRecord();
     record().deleteRecord();
     transaction.commit();
 }

@@ -2,9 +2,11 @@
 
 #include <optional>
 
+#include "equipment/clsEquipmentAssignment.h"
 #include "shell/RecordPane.h"
 
 class FormBuilder;
+class clsAbilityRating;
 
 /// What a pane of people says of them, and where they are kept. In questions %1 is the first name, %2 the last.
 struct PersonText {
@@ -42,6 +44,10 @@ protected:
     /// Lets the record's cursor stand on the twin and keeps what is in the form.
     virtual bool standOnTwin() = 0;
     virtual int id() const = 0;
+    /// The person as one who may have equipment.
+    virtual EquipmentHolder holder() const = 0;
+    /// Lets the ratings' cursor stand on the person's own.
+    virtual bool findRating(clsAbilityRating& ratings) const = 0;
     virtual bool isActive() const = 0;
     virtual QString firstName() const = 0;
 
@@ -56,7 +62,7 @@ protected:
 
     void shown() override;
     bool mayDelete() override;
-    /// The ratings go first.
+    /// The rating goes first.
     void erase() override;
 
 private:

@@ -1,6 +1,7 @@
 #include "platform/text/KeyFilters.h"
 #include "platform/text/Money.h"
 #include "platform/widgets/FormBuilder.h"
+#include "registration/AddressBoxes.h"
 #include "registration/PlayerPane.h"
 #include "shell/Bound.h"
 #include "shell/Choices.h"
@@ -11,7 +12,6 @@ Form* PlayerPane::buildForm() {
     FormBuilder builder(form);
     builder.tab(tr("Players"));
     addPersonalFrame(builder.column(3));
-    addFeeFrame(builder);
     addLeagueFrame(builder.column(2));
     addParentsTab(builder);
     addSchoolTab(builder);
@@ -46,16 +46,16 @@ void PlayerPane::addPersonalFrame(FormBuilder& builder) {
               shared(player.PlayerLastName, player.PlayerDadLastName, player.PlayerMomLastName), FilterTextFull)
         .text("txtPlayerFirstName", tr("First Name *"), player.PlayerFirstName, FilterTextFull)
         .text("txtPlayerMiddleInitial", tr("Initial"), player.PlayerMiddleInitial, FilterTextFull)
-        .span(2)
-        .text("txtPlayerAddress1", tr("Street Address 1 *"), player.PlayerAddress1, FilterTextWide)
-        .text("txtPlayerAddress2", tr("Apt. Number"), player.PlayerAddress2, FilterTextWide)
-        .text("txtPlayerCity", tr("City  *"), player.PlayerCity, FilterTextFull)
-        .choice("cboPlayerStateId", tr("St./Prov.*"), player.PlayerStateId, stateIds(program()),
-                ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
-        .text("txtPlayerPostalCode", tr("&Zip/Postal *"), player.PlayerPostalCode, FilterTextFull)
-        .choice("cboPlayerCountryCode", tr("Country"), player.PlayerCountryCode, {"Canada", "USA"},
-                ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
-        .span(2)
+        .span(2);
+    addAddress(builder, program(),
+               {.prefix = "Player",
+                .street = {tr("Street Address 1 *"), player.PlayerAddress1},
+                .apartment = {tr("Apt. Number"), player.PlayerAddress2},
+                .city = {tr("City  *"), player.PlayerCity},
+                .state = {tr("St./Prov.*"), player.PlayerStateId},
+                .postalCode = {tr("&Zip/Postal *"), player.PlayerPostalCode},
+                .country = {tr("Country"), player.PlayerCountryCode}});
+    builder.span(2)
         .phone("mskedPlayerPhoneArea", "mskedPlayerPhone", tr("Home Phone *"),
                shared(player.PlayerPhoneArea, player.PlayerDadPhoneArea, player.PlayerMomPhoneArea),
                shared(player.PlayerPhone, player.PlayerDadPhone, player.PlayerMomPhone))
@@ -82,32 +82,30 @@ void PlayerPane::addPersonalFrame(FormBuilder& builder) {
 void PlayerPane::addLeagueFrame(FormBuilder& builder) {
     clsRegistration& player = player_;
     builder.frame(tr("League Use"))
+        .span(2)
         .date("dtpPlayerRegistrationDate", tr("Reg Date"), player.PlayerRegistrationDate)
-        .text("txtPlayerTryoutNumber", tr("Tryout Number"), player.PlayerTryoutNumber, FilterNumeric)
         .span(2)
         .choice("cboPlayerDivision", tr("Division"),
                 Binding([this] { return divisionName_; }, [this](const QString& name) { chooseDivision(name); }, 30),
                 liveNames("tblDivision", "DivName"))
         .span(2)
         .shown("lblPlayerTeamName", tr("Team Name"), [this] { return teamName_; })
+        .check("chkPlayerActive", tr("Active?"), player.PlayerActive)
+        .check("chkPlayerIdCheck", tr("Residency Checked?"), player.PlayerIdCheck)
+        .check("chkPlayerBirthCertificateChecked", tr("Birth Cert. Checked?"), player.PlayerBirthCertificateChecked)
+        .check("chkPlayerIsUmpire", tr("Umpire?"), player.PlayerIsUmpire)
+        .span(2)
+        .text("txtPlayerTryoutNumber", tr("Tryout Number"), player.PlayerTryoutNumber, FilterNumeric)
         .span(2)
         .text("txtPlayerRegistrationNumber", tr("Registration Nbr"), player.PlayerRegistrationNumber, FilterTextFull)
-        .check("chkPlayerActive", tr("Active?"), player.PlayerActive)
-        .check("chkPlayerIsUmpire", tr("Umpire?"), player.PlayerIsUmpire)
-        .check("chkPlayerIdCheck", tr("Residency Checked?"), player.PlayerIdCheck)
-        .check("chkPlayerBirthCertificateChecked", tr("Birth Cert. Checked?"), player.PlayerBirthCertificateChecked);
-}
-
-void PlayerPane::addFeeFrame(FormBuilder& builder) {
-    clsRegistration& player = player_;
-    builder.frame(tr("Fees"), 3)
         .money("mskedPlayerFeeAmount", tr("&Per Player Fee"), player.PlayerFeeAmount)
         .money("mskedPlayerFundRaiserFee", tr("Fund Raiser Donation"), player.PlayerFundRaiserFee)
         .money("mskedPlayerOtherFees", tr("Other Fees"), player.PlayerOtherFees)
-        .row()
         .money("mskedPlayerAmountPaid", tr("A&mt. Paid"), player.PlayerAmountPaid)
+        .span(2)
         .choice("cboPlayerHowFeePaid", tr("How Fee Paid?"), player.PlayerHowFeePaid,
                 liveNames("tblHowFeePaid", "HowFeePaidText"))
+        .span(2)
         .shown(
             "lblPlayerBalance", tr("Balance Due"), [] { return Money().text(); }, 10);
 }

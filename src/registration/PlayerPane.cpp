@@ -5,12 +5,12 @@
 #include "platform/text/Numbers.h"
 #include "platform/widgets/ChoiceBox.h"
 #include "platform/widgets/Form.h"
+#include "ratings/clsAbilityRating.h"
 #include "setup/clsSchoolName.h"
 #include "shell/Program.h"
 #include "store/AgeRule.h"
 #include "store/Lookup.h"
 
-#include <QLabel>
 #include <QLineEdit>
 
 PlayerPane::PlayerPane(Program& program)
@@ -77,7 +77,7 @@ void PlayerPane::shown() {
                     : ReadFieldValue(program().store, program().store.dataFilePath, QStringLiteral("TeamName"),
                                      QStringLiteral("tblTeam"), live(matches("TeamId", player_.PlayerTeamId)));
     showAge();
-    showVolunteers();
+    if (!std::exchange(justSaved_, false)) showVolunteers();
     form().refresh();
     showBalance();
     if (player_.IsPlayerNew()) showUsualChoices();
@@ -123,9 +123,9 @@ void PlayerPane::showBalance(const Money& balance, bool due) {
     const QString name = QStringLiteral("lblPlayerBalance");
     form().setCaption(name, due ? tr("Balance Due") : tr("Refund Due"));
     form().display(name, balance.text());
-    QPalette colours = palette();
-    if (!due) colours.setColor(QPalette::WindowText, QColor(0xc6, 0x28, 0x28));
-    form().findChild<QLabel*>(name)->setPalette(colours);
+    const bool darkGround = palette().color(QPalette::Window).lightness() < 128;
+    const QColor red = darkGround ? QColor(0xff, 0x7b, 0x7b) : QColor(0xc6, 0x28, 0x28);
+    form().setInk(name, due ? QColor() : red);
 }
 
 /// A new record's boxes show the usual choices. Where the user touches none of them the record's own are saved.
@@ -203,6 +203,7 @@ bool PlayerPane::write() {
     settleSchool();
     if (!RecordPane::write()) return false;
     reconcileParents();
+    justSaved_ = true;
     return true;
 }
 
@@ -228,6 +229,10 @@ void PlayerPane::settleSchool() {
         ->setEntries(liveNames("tblSchoolInfo", "SchoolName"));
 }
 
+bool PlayerPane::findRating(clsAbilityRating& ratings) const {
+    return ratings.FindARPlayerRecord(player_.PlayerId, false, false);
+}
+
 QString PlayerPane::deleteQuestion() const { return tr("Are you sure you want to delete player %1?").arg(name()); }
 
 std::optional<PersonPane::Twin> PlayerPane::twin() const {
@@ -238,12 +243,13 @@ std::optional<PersonPane::Twin> PlayerPane::twin() const {
 
 void PlayerPane::addSibling() {
     if (player_.PlayerId == 0 || isEditing()) return;
-    beginNew([this] {
+    const auto blank = [this] {
         player_.NewSiblingPlayerRecord();
         player_.PlayerDivisionId = 0;
         player_.PlayerTeamId = 0;
         player_.PlayerBeltedPants = false;
         player_.PlayerMedicalForm = false;
         player_.SetIsPlayerDirty(false);
-    });
+    };
+    beginNew(blank, QStringLiteral("txtPlayerFirstName"));  // the first one to fill: the last name is the family's
 }

@@ -25,7 +25,6 @@ private:
     Form* buildForm();
     void addPersonalFrame(FormBuilder& builder);
     void addLeagueFrame(FormBuilder& builder);
-    void addFeeFrame(FormBuilder& builder);
     // Its further tabs (PlayerFormTabs.cpp).
     void addParentsTab(FormBuilder& builder);
     void addSchoolTab(FormBuilder& builder);
@@ -48,6 +47,8 @@ private:
     std::optional<Twin> twin() const override;
     bool standOnTwin() override { return player_.FindPlayerRecord(name(), false, false); }
     int id() const override { return player_.PlayerId; }
+    EquipmentHolder holder() const override { return {.playerId = player_.PlayerId}; }
+    bool findRating(clsAbilityRating& ratings) const override;
     bool isActive() const override { return player_.PlayerActive; }
     QString firstName() const override { return player_.PlayerFirstName; }
 
@@ -70,6 +71,7 @@ private:
     void reconcileParents();
     void reactivate();
     void linkVolunteer(const Parent& parent);
+    void takeNameAndPhone(const Parent& parent);
     bool makeVolunteer(const Parent& parent);
     void followLink(const Parent& parent);
     void updateVolunteer(const Parent& parent);
@@ -81,6 +83,7 @@ private:
     clsVolunteer volunteer_;
     bool dadVolunteers_ = false;  ///< the choices on screen, which the row's own do not decide
     bool momVolunteers_ = false;
+    bool justSaved_ = false;  ///< they stay as the user left them until the next record is read
     QString divisionName_;
     QString feeOnTheWay_;  ///< taken from a division while typing passes over it; the next one replaces it
     QString teamName_;

@@ -92,14 +92,19 @@ void PlayerPane::linkVolunteer(const Parent& parent) {
     if (found || makeVolunteer(parent)) volunteer_.AddRegVolRecord(player_.PlayerId, volunteer_.VolId, parent.role);
 }
 
+void PlayerPane::takeNameAndPhone(const Parent& parent) {
+    volunteer_.VolLastName = parent.lastName;
+    volunteer_.VolFirstName = parent.firstName;
+    volunteer_.VolHomePhoneArea = parent.phoneArea;
+    volunteer_.VolHomePhone = parent.phone;
+    volunteer_.VolActive = true;
+}
+
 /// Asks for what is not known of the parent and stores the new volunteer; false when the user did not want to.
 bool PlayerPane::makeVolunteer(const Parent& parent) {
     clsVolunteer& v = volunteer_;
     v.NewVolRecord();
-    v.VolLastName = parent.lastName;
-    v.VolFirstName = parent.firstName;
-    v.VolHomePhoneArea = parent.phoneArea;
-    v.VolHomePhone = parent.phone;
+    takeNameAndPhone(parent);
     v.VolWorkPhoneArea = parent.workArea;
     v.VolWorkPhone = parent.work;
     v.VolFaxPhoneArea = parent.mobileArea;
@@ -112,7 +117,6 @@ bool PlayerPane::makeVolunteer(const Parent& parent) {
     v.VolStateId = player_.PlayerStateId;
     v.VolPostalCode = player_.PlayerPostalCode;
     v.VolCountryCode = player_.PlayerCountryCode;
-    v.VolActive = true;
     frmVolInfo form(program(), v);
     if (program().dialogs().showModal(form) != QDialog::Accepted) {
         v.UndoVolRecord();
@@ -149,11 +153,7 @@ void PlayerPane::followLink(const Parent& parent) {
 void PlayerPane::updateVolunteer(const Parent& parent) {
     const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
     datafile::Transaction transaction(database);
-    volunteer_.VolLastName = parent.lastName;
-    volunteer_.VolFirstName = parent.firstName;
-    volunteer_.VolHomePhoneArea = parent.phoneArea;
-    volunteer_.VolHomePhone = parent.phone;
-    volunteer_.VolActive = true;
+    takeNameAndPhone(parent);
     volunteer_.VolDeletedFlag = false;
     volunteer_.SaveVolRecord();
     const QString who = QStringLiteral("Player") + parent.role;
@@ -179,8 +179,9 @@ void PlayerPane::replaceVolunteer(const Parent& parent) {
         volunteer_.DeleteVolRecord();
     else
         volunteer_.DeleteRegVolRecord();
-    if (!makeVolunteer(parent)) return;
-    if (last)
+    if (!makeVolunteer(parent)) {
+        if (last) volunteer_.DeleteRegVolRecord();  // else it would tie the child to one who retired
+    } else if (last)
         volunteer_.UpdateRegVolRecord(volunteer_.VolId);
     else
         volunteer_.AddRegVolRecord(player_.PlayerId, volunteer_.VolId, parent.role);

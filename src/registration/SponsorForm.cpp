@@ -38,17 +38,15 @@ void SponsorPane::addInformationTab(FormBuilder& builder) {
         .row()
         .phone("mskedSponsorPhoneArea", "mskedSponsorPhone", tr("&Phone"), s.SponsorPhoneArea, s.SponsorPhone)
         .phone("mskedSponsorFaxPhoneArea", "mskedSponsorFaxPhone", tr("FA&X"), s.SponsorFaxPhoneArea, s.SponsorFaxPhone)
+        .span(2)
+        .text("txtSponsorColorRequest", tr("Color(s) Requested"), s.SponsorColorRequest, FilterTextFull)
+        .comments("txtSponsorComments", tr("Comments"), s.SponsorComments, FilterTextWide)
         .column(2)
-        .frame(tr("Pledge"), 1)
+        .frame(tr("Teams and Pledge"), 1)
+        .text("txtSponsorNbrOfTeams", tr("Nbr. of Teams Sponsored"), s.SponsorNbrOfTeams, FilterNumeric)
         .masked("mskedSponsorPledgeYear", tr("Pled&ge Year *"), "####", maskedBinding(s.SponsorPledgeYear))
         .money("mskedSponsorPledgeAmount", tr("Pledge A&mount *"), s.SponsorPledgeAmount)
-        .money("mskedSponsorPaidAmount", tr("Amount Pa&id"), s.SponsorPaidAmount)
-        .frame(tr("Team"), 1)
-        .text("txtSponsorColorRequest", tr("Color(s) Requested"), s.SponsorColorRequest, FilterTextFull)
-        .text("txtSponsorNbrOfTeams", tr("Nbr. of Teams Sponsored"), s.SponsorNbrOfTeams, FilterNumeric)
-        .below()
-        .frame(tr("Comments"), 1)
-        .comments("txtSponsorComments", {}, s.SponsorComments, FilterTextWide);
+        .money("mskedSponsorPaidAmount", tr("Amount Pa&id"), s.SponsorPaidAmount);
 }
 
 void SponsorPane::addPledgeTab(FormBuilder& builder) {

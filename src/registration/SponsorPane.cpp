@@ -7,6 +7,7 @@
 #include "platform/text/Money.h"
 #include "platform/text/Numbers.h"
 #include "platform/widgets/Form.h"
+#include "platform/widgets/WaitCursor.h"
 #include "shell/Program.h"
 
 QString fullPledgeYear(const QString& typed, int thisYear) {
@@ -61,7 +62,7 @@ std::vector<Finding> SponsorPane::check() const {
     std::vector<Finding> findings;
     for (const auto& rule : rules)
         if (rule.value().trimmed().isEmpty()) findings.push_back({QLatin1String(rule.field), rule.text});
-    return findings;
+    return findings.empty() ? takenName() : findings;
 }
 
 bool SponsorPane::write() {
@@ -86,6 +87,7 @@ void SponsorPane::completeYear() {
 }
 
 void SponsorPane::addPledge() {
+    const WaitCursor wait;
     if (!canDelete() || !archivePledge()) return;
     for (Text* text : {&sponsor_.SponsorPledgeYear, &sponsor_.SponsorPledgeAmount, &sponsor_.SponsorPaidAmount})
         *text = QString();
@@ -166,6 +168,7 @@ void SponsorPane::offerPledgeMenu(const QPoint& place) {
 
 /// Those selected in the grid. A pledge is known by its year alone: of two of one year the first one goes.
 void SponsorPane::deletePledges() {
+    const WaitCursor wait;
     const QModelIndexList selected = pledges_->selectionModel()->selectedRows();
     if (selected.isEmpty()) return;
     const bool go = program().dialogs().ask(

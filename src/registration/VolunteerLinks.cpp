@@ -11,6 +11,7 @@
 #include "platform/widgets/EntryListModel.h"
 #include "platform/widgets/FormLayout.h"
 #include "platform/widgets/ListMover.h"
+#include "platform/widgets/WaitCursor.h"
 #include "registration/clsRegistration.h"
 #include "registration/clsVolunteer.h"
 #include "setup/ClsVolPos.h"
@@ -100,7 +101,11 @@ QWidget* VolunteerLinks::playersGroup() {
     associated_->setUniformItemSizes(true);
     associated_->setSpacing(2);
     associated_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    constexpr int leastLines = 5;
+    associated_->setMinimumHeight(leastLines * associated_->fontMetrics().lineSpacing());
+    associated_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // it takes what the page has left
     addCaption(tr("Pla&yers Associated with this Volunteer"), associated_);
+    layout->setStretchFactor(associated_, 1);
     connect(player_, &ChoiceBox::edited, this, &VolunteerLinks::choosePlayer);
     const auto take = [this](const QModelIndex& index) { choosePlayer(associatedNames_->entryAt(index.row())); };
     connect(associated_, &QListView::clicked, this, take);
@@ -131,6 +136,7 @@ void VolunteerLinks::refresh() {
 
 /// Positions are filled for this player.
 void VolunteerLinks::choosePlayer(const QString& entry) {
+    const WaitCursor wait;
     clsRegistration player(program_.store);
     const bool found = !entry.isEmpty() && player.FindPlayerRecord(entry, false, true);
     playerId_ = found ? player.PlayerId : 0;
@@ -147,6 +153,7 @@ void VolunteerLinks::showState() {
 }
 
 void VolunteerLinks::addAssociation() {
+    const WaitCursor wait;
     volunteer_.AddRegVolRecord(playerId_, volunteer_.VolId, QStringLiteral("Other"));
     readAssociations();
     showState();
@@ -154,6 +161,7 @@ void VolunteerLinks::addAssociation() {
 }
 
 void VolunteerLinks::deleteAssociation() {
+    const WaitCursor wait;
     bool linked = false;
     volunteer_.FindRegVolRecord(playerId_, volunteer_.VolId, linked);
     if (!linked) return;
@@ -167,6 +175,7 @@ void VolunteerLinks::deleteAssociation() {
 }
 
 void VolunteerLinks::movePosition(bool add, const QString& name) {
+    const WaitCursor wait;
     ClsVolPos position(program_.store);
     if (!position.FindVolPosRecord(name, false, true) || position.VolPosId < 1 || volunteer_.VolId < 1) return;
     if (add)
@@ -178,6 +187,7 @@ void VolunteerLinks::movePosition(bool add, const QString& name) {
 }
 
 void VolunteerLinks::moveCertification(bool add, const QString& name) {
+    const WaitCursor wait;
     clsCertifications certification(program_.store);
     if (!certification.FindCertRecord(name, false, true) || certification.CertificationId < 1 || volunteer_.VolId < 1)
         return;

@@ -2,6 +2,8 @@
 
 #include "platform/text/KeyFilters.h"
 #include "platform/widgets/FormBuilder.h"
+#include "ratings/clsAbilityRating.h"
+#include "registration/AddressBoxes.h"
 #include "registration/VolunteerLinks.h"
 #include "registration/clsRegistration.h"
 #include "shell/Bound.h"
@@ -71,27 +73,27 @@ void VolunteerPane::addPersonalTab(FormBuilder& builder) {
         .text("txtVolLastName", tr("Last N&ame *"), v.VolLastName, FilterTextFull)
         .span(2)
         .text("txtVolFirstName", tr("First Name *"), v.VolFirstName, FilterTextFull)
-        .span(2)
-        .text("txtVolAddress1", tr("Street Address"), v.VolAddress1, FilterTextWide)
-        .text("txtVolAddress2", tr("Apt No."), v.VolAddress2, FilterTextWide)
-        .text("txtVolCity", tr("Cit&y"), v.VolCity, FilterTextFull)
-        .choice("cboVolStateId", tr("State"), v.VolStateId, stateIds(program()),
-                ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
-        .text("txtVolPostalCode", tr("&Zip/Postal"), v.VolPostalCode, FilterTextFull)
-        .choice("cboVolCountryCode", tr("Country"), v.VolCountryCode, {"Canada", "USA"},
-                ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
-        .span(2)
-        .text("txtVolEmailAddress", tr("Email Address"), v.VolEmailAddress, FilterTextFull)
-        .phone("mskedVolHomePhoneArea", "mskedVolHomePhone", tr("Home &Phone *"), v.VolHomePhoneArea, v.VolHomePhone)
+        .span(2);
+    addAddress(builder, program(),
+               {.prefix = "Vol",
+                .street = {tr("Street Address"), v.VolAddress1},
+                .apartment = {tr("Apt No."), v.VolAddress2},
+                .city = {tr("Cit&y"), v.VolCity},
+                .state = {tr("State"), v.VolStateId},
+                .postalCode = {tr("&Zip/Postal"), v.VolPostalCode},
+                .country = {tr("Country"), v.VolCountryCode}});
+    builder.phone("mskedVolHomePhoneArea", "mskedVolHomePhone", tr("Home &Phone *"), v.VolHomePhoneArea, v.VolHomePhone)
         .phone("mskedVolWorkPhoneArea", "mskedVolWorkPhone", tr("&Work Phone"), v.VolWorkPhoneArea, v.VolWorkPhone)
         .phone("mskedVolFaxPhoneArea", "mskedVolFaxPhone", tr("FAX/Other Phone"), v.VolFaxPhoneArea, v.VolFaxPhone)
+        .span(2)
+        .text("txtVolEmailAddress", tr("Email Address"), v.VolEmailAddress, FilterTextFull)
         .choice("cboVolGender", tr("&Gender"), v.VolGender, {"Male", "Female"})
         .date("dtpVolBirthDate", tr("&Birth Date"), v.VolBirthDate)
         .text("txtVolOccupation", tr("Occupation"), v.VolOccupation, FilterTextFull)
+        .comments("txtVolComments", tr("Co&mments"), v.VolComments, FilterTextWide)
         .date("dtpVolRegistrationDate", tr("Registration Date"), v.VolRegistrationDate)
         .span(2)
-        .check("chkVolActive", tr("Act&ive?"), v.VolActive)
-        .comments("txtVolComments", tr("Co&mments"), v.VolComments, FilterTextWide);
+        .check("chkVolActive", tr("Act&ive?"), v.VolActive);
 }
 
 void VolunteerPane::addLinksTab(FormBuilder& builder) {
@@ -176,6 +178,10 @@ void VolunteerPane::renameParents(const VolunteerKey& before) {
             {volunteer_.VolLastName, volunteer_.VolFirstName, volunteer_.VolHomePhone, volunteer_.VolHomePhoneArea},
             found);
     }
+}
+
+bool VolunteerPane::findRating(clsAbilityRating& ratings) const {
+    return ratings.FindARVolunteerRecord(volunteer_.VolId, false, false);
 }
 
 QString VolunteerPane::deleteQuestion() const {

@@ -33,6 +33,8 @@ private:
     std::optional<Twin> twin() const override;
     bool standOnTwin() override { return volunteer_.FindVolRecord(name(), false, false); }
     int id() const override { return volunteer_.VolId; }
+    EquipmentHolder holder() const override { return {.volId = volunteer_.VolId}; }
+    bool findRating(clsAbilityRating& ratings) const override;
     bool isActive() const override { return volunteer_.VolActive; }
     QString firstName() const override { return volunteer_.VolFirstName; }
 

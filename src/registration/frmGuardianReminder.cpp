@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "platform/settings/Settings.h"
@@ -34,7 +35,8 @@ frmGuardianReminder::frmGuardianReminder(Settings& settings) {
                        silent ? QStringLiteral("False") : QStringLiteral("True"));
     });
     layout->addWidget(silence);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(tr("&OK"), QDialogButtonBox::AcceptRole)->setObjectName(QStringLiteral("cmdOK"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     layout->addWidget(buttons);
     QApplication::beep();

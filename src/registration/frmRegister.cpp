@@ -1,30 +1,20 @@
 #include "registration/frmRegister.h"
 
 #include <QAction>
-#include <QGuiApplication>
+#include <QLabel>
 #include <QMenu>
+#include <QStatusBar>
 
+#include "platform/widgets/WaitCursor.h"
 #include "registration/PlayerPane.h"
 #include "registration/SponsorPane.h"
 #include "registration/VolunteerPane.h"
 #include "registration/clsRegistration.h"
 #include "shell/Program.h"
 
-namespace {
-
-/// For the length of a work on many records.
-class WaitCursor {
-public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
-
-}  // namespace
-
-frmRegister::frmRegister(Program& program) : RecordScreen(program, QStringLiteral("frmRegister"), {1240, 700}) {
+frmRegister::frmRegister(Program& program) : RecordScreen(program, QStringLiteral("frmRegister"), {1260, 700}) {
     setWindowTitle(tr("Kestrelmoor - Player/Parent/Volunteer/Sponsor Registrations"));
+    showDataFile();
     auto* players = new PlayerPane(program);
     addPane(players);
     addOrder(players, QStringLiteral("cmdAddSibling"), tr("Add S&ibling"), QStringLiteral("mnuDataNewSiblingRecord"),
@@ -55,6 +45,18 @@ frmRegister::frmRegister(Program& program) : RecordScreen(program, QStringLitera
     toolsMenu()->addSeparator();
     addEntry(toolsMenu(), QStringLiteral("mnuToolsRecalculatePlayerAges"), tr("&Recalculate Player Ages"),
              [this, players] { recalculatePlayerAges(players); });
+}
+
+/// Other screens name the file in the caption, which says here what the screen is for.
+void frmRegister::showDataFile() {
+    auto* file = new QLabel(program_.store.dataFilePath);
+    file->setObjectName(QStringLiteral("lblDataFile"));
+    file->setTextFormat(Qt::PlainText);
+    file->setToolTip(tr("Data file: %1").arg(program_.store.dataFilePath));
+    file->setEnabled(false);
+    file->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addPermanentWidget(file, 1);
 }
 
 /// The data file as a whole is cared for on the start-up screen, where nobody works on a record.

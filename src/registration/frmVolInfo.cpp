@@ -7,8 +7,9 @@
 #include "platform/text/KeyFilters.h"
 #include "platform/widgets/FormBuilder.h"
 #include "platform/widgets/FormLayout.h"
+#include "registration/AddressBoxes.h"
+#include "registration/PersonPane.h"
 #include "shell/Bound.h"
-#include "shell/Choices.h"
 #include "shell/Program.h"
 
 frmVolInfo::frmVolInfo(Program& program, clsVolunteer& volunteer)
@@ -19,16 +20,16 @@ frmVolInfo::frmVolInfo(Program& program, clsVolunteer& volunteer)
     FormBuilder builder(form_);
     builder.frame(tr("Volunteer Personal Information"))
         .shown("lblVolLastName", tr("Last Name"), [&v] { return v.VolLastName(); })
-        .shown("lblVolFirstName", tr("First Name"), [&v] { return v.VolFirstName(); })
-        .text("txtVolAddress1", tr("Street &Address"), v.VolAddress1, FilterTextWide)
-        .text("txtVolAddress2", tr("Apt No."), v.VolAddress2, FilterTextWide)
-        .text("txtVolCity", tr("Cit&y"), v.VolCity, FilterTextFull)
-        .choice("cboVolStateId", tr("S&tate"), v.VolStateId, stateIds(program),
-                ChoiceBox::FreeText | ChoiceBox::UpperCase, FilterTextFull)
-        .text("txtVolPostalCode", tr("&Zip/Postal Code"), v.VolPostalCode, FilterTextFull)
-        .choice("cboVolCountryCode", tr("Co&untry"), v.VolCountryCode, {"Canada", "USA"},
-                ChoiceBox::FreeText | ChoiceBox::EmptyFirst, FilterTextFull)
-        .phone("mskedVolHomePhoneArea", "mskedVolHomePhone", tr("&Home Phone *"), v.VolHomePhoneArea, v.VolHomePhone)
+        .shown("lblVolFirstName", tr("First Name"), [&v] { return v.VolFirstName(); });
+    addAddress(builder, program,
+               {.prefix = "Vol",
+                .street = {tr("Street &Address"), v.VolAddress1},
+                .apartment = {tr("Apt No."), v.VolAddress2},
+                .city = {tr("Cit&y"), v.VolCity},
+                .state = {tr("S&tate"), v.VolStateId},
+                .postalCode = {tr("&Zip/Postal Code"), v.VolPostalCode},
+                .country = {tr("Co&untry"), v.VolCountryCode}});
+    builder.phone("mskedVolHomePhoneArea", "mskedVolHomePhone", tr("&Home Phone *"), v.VolHomePhoneArea, v.VolHomePhone)
         .phone("mskedVolWorkPhoneArea", "mskedVolWorkPhone", tr("&Work Phone"), v.VolWorkPhoneArea, v.VolWorkPhone)
         .phone("mskedVolFaxPhoneArea", "mskedVolFaxPhone", tr("&Mobile Phone"), v.VolFaxPhoneArea, v.VolFaxPhone)
         .text("txtVolEmailAddress", tr("&Email Address"), v.VolEmailAddress, FilterTextFull)
@@ -52,6 +53,7 @@ frmVolInfo::frmVolInfo(Program& program, clsVolunteer& volunteer)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
     resize(760, 480);
+    form_->focusField(QStringLiteral("txtVolAddress1"));
 }
 
 void frmVolInfo::save() {
@@ -65,7 +67,7 @@ void frmVolInfo::save() {
     QStringList lines;
     QString first;
     for (const auto& rule : rules) {
-        if (!rule.value().trimmed().isEmpty() && rule.value().trimmed() != u"-") continue;
+        if (!isBlank(rule.value)) continue;
         lines << rule.text;
         if (first.isEmpty()) first = QLatin1String(rule.field);
     }

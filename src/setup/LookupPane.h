@@ -50,7 +50,7 @@ private:
         Text& text = record_.*box.property;
         switch (box.as) {
             case BoxAs::Text: builder.text(box.name, box.caption, text, FilterTextFull); break;
-            case BoxAs::Comments: builder.comments(box.name, box.caption, text, FilterTextFull); break;
+            case BoxAs::Comments: builder.comments(box.name, box.caption, text, FilterTextWide); break;
             case BoxAs::Phone: builder.masked(box.name, box.caption, phoneMask, maskedBinding(text)); break;
             case BoxAs::Zip: builder.masked(box.name, box.caption, zipMask, maskedBinding(text)); break;
             case BoxAs::State:
@@ -73,7 +73,7 @@ private:
         for (const Box& box : lookup_.boxes)
             if (!box.required.isEmpty() && (record_.*box.property)().isEmpty())
                 findings.push_back({box.name, box.required});
-        return findings;
+        return findings.empty() ? takenName() : findings;
     }
     void erase() override {
         if (lookup_.cascade) lookup_.cascade(record_);

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "platform/widgets/FormLayout.h"
@@ -31,7 +32,8 @@ LookupPane<UniformSize>::Lookup lookupOf(const GarmentText& text, const QString&
                                   u" WHERE [DeletedFlag] = False ORDER BY [" + tag + u"Text]",
                      .checkTitle = checkTitle,
                      .missingText = UniformPage::tr("Error!  %1 not found in Search List").arg(text.title),
-                     .searchCharacters = 20},
+                     .searchCharacters = 20,
+                     .stepsOnly = true},
             .find = &UniformSize::FindSizeRecord,
             .key = &UniformSize::SizeText,
             .boxes = {{u"txt" + tag + u"Text", UniformPage::tr("Description *"), &UniformSize::SizeText,
@@ -42,20 +44,26 @@ LookupPane<UniformSize>::Lookup lookupOf(const GarmentText& text, const QString&
             .statusName = [](const UniformSize& size) { return QString(size.Size() + u" - " + size.SizeText()); }};
 }
 
-/// Inside the pane, so that they wait with it while another one is edited.
+/// Inside the pane, so that they wait with it while another one is edited. Their keys, those of all tabs, go to the
+/// garment that has the focus.
 void addButtons(RecordPane& pane, const QString& tag, const QString& title) {
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     const auto button = [&](const char* what, const QString& caption, void (RecordPane::*press)()) {
         auto* made = new QPushButton(caption);
         made->setObjectName(u"cmd" + QLatin1String(what) + tag);
+        made->setAccessibleName(QString(caption).remove(u'&') + u' ' + title);
         made->setAutoDefault(false);
+        auto* key = new QShortcut(made->shortcut(), &pane);
+        key->setContext(Qt::WidgetWithChildrenShortcut);
+        QObject::connect(key, &QShortcut::activated, made, [made] { made->click(); });
+        made->setShortcut({});
         QObject::connect(made, &QPushButton::clicked, &pane, press);
         buttons->addWidget(made);
         return made;
     };
-    auto* add = button("Add", UniformPage::tr("Add %1").arg(title), &RecordPane::addNew);
-    auto* remove = button("Delete", UniformPage::tr("Delete %1").arg(title), &RecordPane::remove);
+    auto* add = button("Add", UniformPage::tr("Add &New"), &RecordPane::addNew);
+    auto* remove = button("Delete", UniformPage::tr("De&lete"), &RecordPane::remove);
     static_cast<QVBoxLayout*>(pane.layout())->addLayout(buttons);
     const auto showState = [&pane, add, remove] {
         add->setEnabled(!pane.isEditing());
@@ -99,9 +107,10 @@ UniformPage::UniformPage(Program& program, const QString& checkTitle) {
     for (const GarmentText& text : garments) {
         auto* pane = new LookupPane<UniformSize>(program, lookupOf(text, checkTitle), text.garment);
         pane->layout()->setContentsMargins({});
+        pane->layout()->setSpacing(spacing::line);
         auto* lines = pane->findChild<QScrollArea*>();
         const auto* box = pane->findChild<QLineEdit*>(u"txt" + text.tag);
-        lines->setFixedHeight(box->sizeHint().height() + spacing::group);  // one line; the page scrolls instead
+        lines->setFixedHeight(box->sizeHint().height() + spacing::line);  // one line; the page scrolls instead
         addButtons(*pane, text.tag, text.title);
         auto* frame = new QGroupBox(text.title);
         (new QVBoxLayout(frame))->addWidget(pane);

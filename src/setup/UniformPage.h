@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <vector>
 
-class RecordPane;
+class ScreenPane;
 struct Program;
 
 /// The sizes of the five garments on one page, each with its own list and its own buttons to add and delete.
@@ -12,8 +12,8 @@ class UniformPage final : public QWidget {
 
 public:
     UniformPage(Program& program, const QString& checkTitle);
-    const std::vector<RecordPane*>& panes() const { return panes_; }
+    const std::vector<ScreenPane*>& panes() const { return panes_; }
 
 private:
-    std::vector<RecordPane*> panes_;
+    std::vector<ScreenPane*> panes_;
 };

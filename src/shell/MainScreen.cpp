@@ -111,8 +111,24 @@ void MainScreen::buildHelpMenu() {
     addEntry(help, "mnuHelpAbout", tr("&About Kestrelmoor..."), [this] { program_.screens.show("frmAbout"); });
 }
 
+void MainScreen::resizeEvent(QResizeEvent* event) {
+    Screen::resizeEvent(event);
+    placeToolBar();
+}
+
+void MainScreen::placeToolBar() {
+    constexpr int lowWindow = 440;
+    const bool low = height() < lowWindow;
+    const Qt::ToolBarArea wanted = low ? Qt::LeftToolBarArea : Qt::TopToolBarArea;
+    if (toolBarArea(toolBar_) == wanted) return;
+    toolBar_->setToolButtonStyle(low ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon);
+    toolBar_->setIconSize(low ? QSize(16, 16) : QSize(24, 24));
+    addToolBar(wanted, toolBar_);
+}
+
 void MainScreen::buildToolBar() {
     QToolBar* bar = addToolBar(tr("Screens"));
+    toolBar_ = bar;
     bar->setObjectName("tbrScreens");
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);

@@ -4,6 +4,7 @@
 
 class EditMenu;
 class QLabel;
+class QToolBar;
 class QMenu;
 
 /// A main screen: the shared menus and toolbar, the status line, and a window that comes back where it was left.
@@ -36,8 +37,11 @@ protected:
     QMenu* toolsMenu() const { return tools_; }
 
     void leaving() override;
+    /// In a low window the toolbar stands at the side and leaves its height to the fields.
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void placeToolBar();
     QAction* insertEntry(QMenu* menu, const QString& name, const QString& text);
     void buildFileMenu();
     void buildViewMenu();
@@ -52,5 +56,6 @@ private:
     QMenu* data_ = nullptr;
     QMenu* tools_ = nullptr;
     QAction* fileTail_ = nullptr;
+    QToolBar* toolBar_ = nullptr;
     QLabel* status_ = nullptr;
 };

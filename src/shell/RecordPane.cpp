@@ -1,26 +1,36 @@
 #include "shell/RecordPane.h"
 
-#include <QLabel>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "platform/text/Collation.h"
 #include "platform/widgets/Form.h"
 #include "platform/widgets/FormLayout.h"
 #include "platform/widgets/SearchCombo.h"
-#include "shell/Icons.h"
+#include "platform/widgets/WaitCursor.h"
 #include "shell/Program.h"
+#include "shell/SearchRow.h"
 
-RecordPane::RecordPane(Program& program, PaneText text) : program_(program), text_(std::move(text)) {}
+RecordPane::RecordPane(Program& program, PaneText text, Orders orders) : ScreenPane(program, std::move(text), orders) {}
 
-void RecordPane::start(RecordClass& record, Form* form) {
+void RecordPane::start(RecordClass& record, Form* form, QWidget* before) {
     record_ = &record;
     form_ = form;
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
     layout->setSpacing(spacing::group);
-    layout->addWidget(searchRow());
+    row_ = new SearchRow(text(), this);
+    search_ = &row_->list();
+    auto* rows = new ColumnRow(this);
+    if (before) rows->addColumn(before, 0);
+    rows->addColumn(row_, 1);
+    layout->addWidget(rows);
     layout->addWidget(form_, 1);
+    connect(row_, &SearchRow::picked, this, &RecordPane::pick);
+    connect(row_, &SearchRow::stepped, this, [this](int index) {
+        const WaitCursor wait;
+        show(index);
+    });
+    connect(row_, &SearchRow::said, this, &RecordPane::said);
     connect(form_, &Form::changed, this, &RecordPane::beginEditing);
     showFirst();
 }
@@ -30,88 +40,41 @@ void RecordPane::showFirst() {
     show(search_->entryCount() > 0 ? 0 : -1);
 }
 
-QWidget* RecordPane::searchRow() {
-    auto* row = new QWidget(this);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins({});
-    layout->setSpacing(spacing::label);
-    auto* caption = new QLabel(text_.searchCaption, row);
-    search_ = new SearchCombo(QString(text_.searchCaption).remove(u'&'), row);
-    search_->setObjectName(text_.searchName);
-    search_->setShownCharacters(text_.searchCharacters);
-    caption->setBuddy(search_);
-    layout->addWidget(caption);
-    layout->addWidget(search_);
-    connect(search_, &SearchCombo::picked, this, &RecordPane::pick);
-    const struct {
-        int code;
-        const char* icon;
-        QString tip;
-    } buttons[] = {{MoveFirst, "move-first", tr("First record")},
-                   {MovePrevious, "move-previous", tr("Previous record")},
-                   {MoveNext, "move-next", tr("Next record")},
-                   {MoveLast, "move-last", tr("Last record")}};
-    for (const auto& each : buttons) {
-        auto* button = new QToolButton(row);
-        button->setObjectName(text_.moveName + QString::number(moves_.size()));
-        button->setIcon(shellIcon(QLatin1String(each.icon)));
-        button->setToolTip(each.tip);
-        button->setAccessibleName(each.tip);
-        button->setAutoRaise(true);
-        connect(button, &QToolButton::clicked, this, [this, code = each.code] { move(code); });
-        layout->addWidget(button);
-        moves_.push_back(button);
-    }
-    layout->addStretch(1);
-    return row;
+bool RecordPane::hasRecord() const { return search_->currentIndex() >= 0; }
+
+std::vector<QString> RecordPane::readEntries() const {
+    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    return SearchRow::entries(database, text().listQuery);
 }
 
+/// The reading itself may fill a work table.
 void RecordPane::readList() {
-    const datafile::Database database = program_.store.workspace.openDatabase(program_.store.dataFilePath);
-    seenChanges_ = database.changes();
-    std::vector<QString> entries = database.readList(text_.listQuery, QStringLiteral("Name"));
-    placeAccented(entries);
-    search_->setEntries(std::move(entries));
+    search_->setEntries(readEntries());
+    noteChanges();
 }
 
-bool RecordPane::canDelete() const { return !editing_ && search_->currentIndex() >= 0; }
+void RecordPane::noteChanges() {
+    seenChanges_ = program().store.workspace.openDatabase(program().store.dataFilePath).changes();
+}
 
 void RecordPane::beginEditing() {
     if (!form_->isLoading()) setEditing(true);
 }
 
 void RecordPane::setEditing(bool editing) {
-    editing_ = editing;
-    search_->setEnabled(!editing);
-    for (QToolButton* button : moves_) button->setEnabled(!editing && search_->entryCount() > 0);
-    Q_EMIT stateChanged();
+    row_->setLocked(editing);
+    ScreenPane::setEditing(editing);
 }
 
 void RecordPane::focusSearch() {
     if (search_->isEnabled()) search_->setFocus(Qt::TabFocusReason);
 }
 
-void RecordPane::move(int code) {
-    if (search_->entryCount() == 0) return;
-    const int last = search_->entryCount() - 1;
-    const int current = search_->currentIndex();
-    Q_EMIT said({});
-    if (code == MoveFirst || code == MoveLast) {
-        record_->move(code);
-        return show(code == MoveFirst ? 0 : last);
-    }
-    if (code == MovePrevious && current <= 0)
-        Q_EMIT said(tr("First Record"));
-    else if (code == MoveNext && current >= last)
-        Q_EMIT said(tr("Last Record"));
-    else
-        show(current + (code == MoveNext ? 1 : -1));
-}
-
 void RecordPane::pick(int index) {
+    const WaitCursor wait;
     const QString wanted = search_->entryAt(index);
-    if (!offerToSave()) return search_->setCurrentIndex(search_->indexOf(shownEntry_));
     Q_EMIT said({});
+    if (!offerToSave()) return search_->setCurrentIndex(search_->indexOf(shownEntry_));
     show(search_->indexOf(wanted));
 }
 
@@ -145,10 +108,11 @@ void RecordPane::showBlank() {
 }
 
 void RecordPane::addNew() {
-    beginNew([this] { makeNew(); });
+    beginNew([this] { makeNew(); }, firstField());
 }
 
-void RecordPane::beginNew(const std::function<void()>& blank) {
+void RecordPane::beginNew(const std::function<void()>& blank, const QString& field) {
+    const WaitCursor wait;
     Q_EMIT said({});
     search_->setCurrentIndex(-1);
     blank();
@@ -156,7 +120,7 @@ void RecordPane::beginNew(const std::function<void()>& blank) {
     form_->setFieldsEnabled(true);
     shown();
     setEditing(true);
-    form_->focusField(firstField());
+    form_->focusField(field);
 }
 
 bool RecordPane::write() {
@@ -169,31 +133,38 @@ bool RecordPane::writeGuarded(const QString& title) {
     try {
         return write();
     } catch (const datafile::Error& error) {
-        program_.dialogs().error(title, error.text());
+        program().dialogs().error(title, error.text());
     } catch (const RecordError& error) {
-        program_.dialogs().error(title, error.text());
+        program().dialogs().error(title, error.text());
     }
     return false;
 }
 
+std::vector<Finding> RecordPane::takenName() const {
+    if (!record_->isKeyTaken()) return {};
+    return {
+        {firstField(), tr("%1 already exists.\nDuplicates are not allowed.\nPlease enter another name.").arg(entry())}};
+}
+
 bool RecordPane::save() {
-    if (!record_->isChanged()) {
+    if (!isChanged()) {
         setEditing(false);
         return true;
     }
+    const WaitCursor wait;
     std::vector<Finding> findings = check();
     if (const QString unreadable = form_->unreadableField(); !unreadable.isEmpty())
         findings.push_back({unreadable, tr("The date cannot be read.")});
     if (!findings.empty()) {
         QStringList lines;
         for (const Finding& finding : findings) lines << finding.text;
-        program_.dialogs().warning(text_.checkTitle, lines.join(u'\n'));
+        program().dialogs().warning(text().checkTitle, lines.join(u'\n'));
         form_->focusField(findings.front().field);
         return false;
     }
     const QString before = record_->isNew() ? QString() : shownEntry_;
     if (!writeGuarded(tr("The record was not saved"))) return false;
-    Q_EMIT said(tr("Record \"%1\" Saved.").arg(name()));
+    Q_EMIT said((text().saved.isEmpty() ? tr("Record \"%1\" Saved.") : text().saved).arg(name()));
     placeInList(before);
     return true;
 }
@@ -205,13 +176,13 @@ void RecordPane::placeInList(const QString& before) {
         if (const int index = search_->indexOf(text); index >= 0) search_->removeEntry(index);
     };
     if (before != saved) {
-        if (!before.isEmpty() && !find(before)) drop(before);
-        drop(saved);  // written otherwise, or the record that this one went over
+        if (!before.isEmpty() && (text().namesRepeat || !find(before))) drop(before);
+        if (!text().namesRepeat) drop(saved);  // written otherwise, or the record that this one went over
         search_->insertEntry(saved, listLess);
     }
-    if (!find(saved)) program_.dialogs().warning(tr("Error!"), text_.missingText);
+    if (!find(saved)) program().dialogs().warning(tr("Error!"), text().missingText);
     show(search_->indexOf(saved));
-    seenChanges_ = program_.store.workspace.openDatabase(program_.store.dataFilePath).changes();
+    noteChanges();
 }
 
 /// Where the row itself is gone, the list says so when it is asked for it again.
@@ -225,6 +196,7 @@ void RecordPane::dropEdits() {
 }
 
 void RecordPane::cancel() {
+    const WaitCursor wait;
     dropEdits();
     Q_EMIT said({});
     show(search_->indexOf(shownEntry_));
@@ -241,10 +213,11 @@ QString RecordPane::deleteQuestion() const {
 }
 
 void RecordPane::remove() {
+    const WaitCursor wait;
     const int index = search_->currentIndex();
     if (index < 0 || !find(search_->entryAt(index)) || !mayDelete()) return;
     const QString deleted = deletedName();
-    if (!program_.dialogs().ask(tr("Delete Confirmation"), deleteQuestion())) {
+    if (!program().dialogs().ask(tr("Delete Confirmation"), deleteQuestion())) {
         Q_EMIT said(tr("Record \"%1\" NOT Deleted.").arg(deleted));
         return;
     }
@@ -256,9 +229,9 @@ void RecordPane::remove() {
 
 /// After a new record that was not wanted there is none in view.
 bool RecordPane::offerToSave(const QString& question, const QString& title) {
-    if (!record_->isChanged()) return true;
-    if (program_.dialogs().ask(title.isEmpty() ? tr("Save Record?") : title,
-                               question.isEmpty() ? tr("Save the current record?") : question))
+    if (!isChanged()) return true;
+    if (program().dialogs().ask(title.isEmpty() ? tr("Save Record?") : title,
+                                question.isEmpty() ? tr("Save the current record?") : question))
         return save();
     const QString unsaved = unsavedName();
     const bool wasNew = record_->isNew();
@@ -269,23 +242,22 @@ bool RecordPane::offerToSave(const QString& question, const QString& title) {
 }
 
 bool RecordPane::offerToSaveBeforeClosing() {
-    if (!record_->isChanged() || !program_.dialogs().ask(tr("Save Record?"), tr("Save the current record?")))
-        return true;
+    if (!isChanged() || !program().dialogs().ask(tr("Save Record?"), tr("Save the current record?"))) return true;
     if (!check().empty()) return save();
     try {
         return write();
     } catch (const std::exception& error) {
-        program_.dialogs().error(tr("Save Record?"), tr("The following error occurred while attempting to save:") +
-                                                         u'\n' + QString::fromUtf8(error.what()));
+        program().dialogs().error(tr("Save Record?"), tr("The following error occurred while attempting to save:") +
+                                                          u'\n' + QString::fromUtf8(error.what()));
     }
-    return program_.dialogs().ask(tr("Save Record?"), tr("If you continue the current operation, \n"
-                                                         "changes to your data will be lost.\n"
-                                                         "Do you want to continue anyway?"));
+    return program().dialogs().ask(tr("Save Record?"), tr("If you continue the current operation, \n"
+                                                          "changes to your data will be lost.\n"
+                                                          "Do you want to continue anyway?"));
 }
 
 void RecordPane::catchUp() {
-    const datafile::Database database = program_.store.workspace.openDatabase(program_.store.dataFilePath);
-    if (editing_ || database.changes() == seenChanges_) return;
+    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    if (isEditing() || database.changes() == seenChanges_) return;
     const QString current = shownEntry_;
     readChoices();
     readList();

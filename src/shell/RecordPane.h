@@ -1,30 +1,13 @@
 #pragma once
 
-#include <QWidget>
 #include <functional>
 
+#include "shell/ScreenPane.h"
 #include "store/RecordClass.h"
 
 class Form;
-class QToolButton;
 class SearchCombo;
-struct Program;
-
-/// What a pane says of itself; everything else about the screen protocol is the same for all.
-struct PaneText {
-    QString tag;                ///< of menu entries: "Cert" makes mnuDataNewCertRecord
-    QString caption;            ///< of the tab
-    QString searchName;         ///< object name of the search list
-    QString searchCaption;      ///< with its access key: "Current &School"
-    QString moveName;           ///< object name of the move buttons; their number follows
-    QString listQuery;          ///< its column Name is the list's text
-    QString checkTitle;         ///< of the box with what the entry lacks
-    QString missingText;        ///< says that the saved record is not in its list
-    QString leaveQuestion{};    ///< asked when its tab is left with unsaved work; empty: as everywhere
-    QString menu{};             ///< its group of the Data menu; empty: as the tab
-    QString noun{};             ///< in that menu: "Player" makes "New Player"; empty: "Add New"
-    int searchCharacters = 40;  ///< shown of the search list
-};
+class SearchRow;
 
 /// One finding of a pane's check of its entries.
 struct Finding {
@@ -35,52 +18,49 @@ struct Finding {
 /// A pane in which one record class is searched, shown, entered, saved and deleted: the protocol that all data
 /// screens follow. A pane derives from it, makes its record and its form in its constructor, and calls start().
 /// While a record is edited, the search list, the move buttons and the other panes wait.
-class RecordPane : public QWidget {
+class RecordPane : public ScreenPane {
     Q_OBJECT
 
 public:
-    RecordPane(Program& program, PaneText text);
+    RecordPane(Program& program, PaneText text, Orders orders = EveryOrder);
 
-    const PaneText& text() const { return text_; }
-    bool isEditing() const { return editing_; }
-    bool canDelete() const;
-    virtual bool canAdd() const { return true; }
+    bool hasRecord() const override;
+    bool canDelete() const override { return !isEditing() && hasRecord() && orders().testFlag(Delete); }
+    /// Whether there is something to save.
+    virtual bool isChanged() const { return record_->isChanged(); }
 
-    void addNew();
+    void addNew() override;
     /// False when the record stayed unsaved; the user has been told why.
-    bool save();
-    void remove();
+    bool save() override;
+    void remove() override;
     /// Drops the edits; a new record gives way to the one shown before.
-    void cancel();
-    virtual void refresh();
-    /// Asks, when there is unsaved work, whether to save it. False: the user stays with it.
-    bool offerToSave(const QString& question = {}, const QString& title = {});
-    /// As offerToSave(), before the screen closes: a save that fails may be given up.
-    bool offerToSaveBeforeClosing();
-    /// Shows what others changed meanwhile; a record that is being edited stays as it is.
-    void catchUp();
+    void cancel() override;
+    void refresh() override;
+    bool offerToSave(const QString& question = {}, const QString& title = {}) override;
+    /// A save that fails may be given up.
+    bool offerToSaveBeforeClosing() override;
+    void catchUp() override;
     /// Reads the list anew and shows its first record; unsaved work is dropped.
     void showFirst();
-    void focusSearch();
-
-Q_SIGNALS:
-    void stateChanged();
-    /// For the status line; empty resets it.
-    void said(const QString& text);
+    void focusSearch() override;
 
 protected:
-    /// Reads the list, shows its first record and lays the pane out. The last call of the constructor.
-    void start(RecordClass& record, Form* form);
+    /// Reads the list, shows its first record and lays the pane out, with `before` ahead of the search list. The last
+    /// call of the constructor.
+    void start(RecordClass& record, Form* form, QWidget* before = nullptr);
 
-    Program& program() const { return program_; }
     RecordClass& record() const { return *record_; }
     Form& form() { return *form_; }
     SearchCombo& search() { return *search_; }
-    /// Begins a new record that `blank` prepares.
-    void beginNew(const std::function<void()>& blank);
+    /// Begins a new record that `blank` prepares, with the cursor in this box.
+    void beginNew(const std::function<void()>& blank, const QString& field);
     /// An edit of the user's that no field of the form makes.
     void beginEditing();
+    /// For check(): the finding that another record has this one's name already, by which neither could be found.
+    std::vector<Finding> takenName() const;
 
+    /// The entries of the search list in their order.
+    virtual std::vector<QString> readEntries() const;
     /// Finds the record of a list entry and loads it.
     virtual bool find(const QString& entry) = 0;
     /// What the status line calls the record.
@@ -109,24 +89,20 @@ protected:
     virtual void shown() {}
 
 private:
-    QWidget* searchRow();
-    void move(int code);
     void pick(int index);
     void show(int index);
     void showBlank();
-    void setEditing(bool editing);
+    void setEditing(bool editing) override;
     void readList();
+    void noteChanges();
     void dropEdits();
     bool writeGuarded(const QString& title);
     void placeInList(const QString& before);
 
-    Program& program_;
-    PaneText text_;
     RecordClass* record_ = nullptr;
     Form* form_ = nullptr;
-    SearchCombo* search_ = nullptr;
-    std::vector<QToolButton*> moves_;
+    SearchRow* row_ = nullptr;
+    SearchCombo* search_ = nullptr;  ///< of the row
     QString shownEntry_;
     qint64 seenChanges_ = -1;
-    bool editing_ = false;
 };

@@ -7,11 +7,12 @@
 #include <QVBoxLayout>
 
 #include "platform/widgets/FormLayout.h"
-#include "shell/RecordPane.h"
 
 namespace {
 
-void savePane(RecordPane& pane) { pane.save(); }
+void setPossible(QAction* entry, bool possible) {
+    if (entry) entry->setEnabled(possible);
+}
 
 }  // namespace
 
@@ -25,14 +26,14 @@ RecordScreen::RecordScreen(Program& program, const QString& name, QSize designSi
     auto* row = new QHBoxLayout(buttons_);
     row->setContentsMargins({});
     row->addStretch(1);
-    add_ = addButton(QStringLiteral("cmdAdd"), tr("Add &New"), &RecordPane::addNew);
-    save_ = addButton(QStringLiteral("cmdSave"), tr("&Save"), nullptr);
-    delete_ = addButton(QStringLiteral("cmdDelete"), tr("De&lete"), &RecordPane::remove);
-    cancel_ = addButton(QStringLiteral("cmdCancel"), tr("Can&cel"), &RecordPane::cancel);
-    refresh_ = addButton(QStringLiteral("cmdRefresh"), tr("&Refresh"), nullptr);
-    auto* close = addButton(QStringLiteral("cmdClose"), tr("Cl&ose"), nullptr);
+    add_ = makeButton(QStringLiteral("cmdAdd"), tr("Add &New"), &ScreenPane::addNew);
+    save_ = makeButton(QStringLiteral("cmdSave"), tr("&Save"), nullptr);
+    delete_ = makeButton(QStringLiteral("cmdDelete"), tr("De&lete"), &ScreenPane::remove);
+    cancel_ = makeButton(QStringLiteral("cmdCancel"), tr("Can&cel"), &ScreenPane::cancel);
+    refresh_ = makeButton(QStringLiteral("cmdRefresh"), tr("&Refresh"), nullptr);
+    auto* close = makeButton(QStringLiteral("cmdClose"), tr("Cl&ose"), nullptr);
     connect(save_, &QPushButton::clicked, this, [this] {
-        if (pane()) savePane(*pane());
+        if (ScreenPane* current = pane()) current->save();
     });
     connect(refresh_, &QPushButton::clicked, this, &RecordScreen::refresh);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
@@ -40,7 +41,7 @@ RecordScreen::RecordScreen(Program& program, const QString& name, QSize designSi
     connect(tabs_, &QTabWidget::currentChanged, this, &RecordScreen::changeTab);
 }
 
-QPushButton* RecordScreen::addButton(const QString& name, const QString& caption, void (RecordPane::*what)()) {
+QPushButton* RecordScreen::makeButton(const QString& name, const QString& caption, void (ScreenPane::*what)()) {
     auto* button = new QPushButton(caption, buttons_);
     button->setObjectName(name);
     button->setAutoDefault(false);
@@ -49,61 +50,70 @@ QPushButton* RecordScreen::addButton(const QString& name, const QString& caption
     return button;
 }
 
-void RecordScreen::press(void (RecordPane::*what)()) {
-    if (RecordPane* current = pane()) (current->*what)();
+void RecordScreen::press(void (ScreenPane::*what)()) {
+    if (ScreenPane* current = pane()) (current->*what)();
 }
 
-void RecordScreen::addPane(RecordPane* added) { addPage(added->text().caption, added, {added}); }
+void RecordScreen::addPane(ScreenPane* added) { addPage(added->text().caption, added, {added}); }
 
-void RecordScreen::addPage(const QString& caption, QWidget* page, const std::vector<RecordPane*>& panes) {
-    for (RecordPane* added : panes) {
+void RecordScreen::addPage(const QString& caption, QWidget* page, const std::vector<ScreenPane*>& panes) {
+    for (ScreenPane* added : panes) {
         addMenu(added, page);
-        connect(added, &RecordPane::stateChanged, this, &RecordScreen::showState);
-        connect(added, &RecordPane::said, this, &RecordScreen::UpdateStatusBar);
+        if (const PaneText& text = added->text(); !text.addButton.isEmpty())
+            entries_.back().addButton = addButton(text.addButton, text.addCaption, [added] { added->addNew(); });
+        connect(added, &ScreenPane::stateChanged, this, &RecordScreen::showState);
+        connect(added, &ScreenPane::said, this, &RecordScreen::UpdateStatusBar);
     }
     tabs_->addTab(page, caption);
     showState();
 }
 
 /// The Data menu holds one submenu a pane; the same orders as the buttons.
-void RecordScreen::addMenu(RecordPane* added, QWidget* page) {
+void RecordScreen::addMenu(ScreenPane* added, QWidget* page) {
+    entries_.push_back({.pane = added, .page = page});
+    if (!(added->orders() & ~ScreenPane::Orders(ScreenPane::Refresh))) return;
     const QString& tag = added->text().tag;
     const QString& noun = added->text().noun;
     QMenu* menu = dataMenu()->addMenu(added->text().menu.isEmpty() ? added->text().caption : added->text().menu);
     menu->menuAction()->setObjectName(QStringLiteral("mnuData") + tag);
-    const auto entry = [&](const char* what, const QString& caption, auto run) {
-        QAction* action =
-            addEntry(menu, QStringLiteral("mnuData%1%2Record").arg(QLatin1String(what), tag), caption, run);
-        return action;
+    const auto entry = [&](ScreenPane::Order order, const char* what, const QString& caption, auto run) -> QAction* {
+        if (!added->orders().testFlag(order)) return nullptr;
+        return addEntry(menu, QStringLiteral("mnuData%1%2Record").arg(QLatin1String(what), tag), caption, run);
     };
-    entries_.push_back(
-        {added, page, menu->menuAction(),
-         entry("New", noun.isEmpty() ? tr("Add &New") : tr("&New %1").arg(noun), [added] { added->addNew(); }),
-         entry("Save", noun.isEmpty() ? tr("&Save") : tr("&Save %1").arg(noun), [added] { added->save(); }),
-         entry("Delete", noun.isEmpty() ? tr("De&lete") : tr("De&lete %1").arg(noun), [added] { added->remove(); }),
-         entry("Cancel", tr("Can&cel"), [added] { added->cancel(); })});
+    Entry& made = entries_.back();
+    made.menu = menu->menuAction();
+    made.add = entry(ScreenPane::AddNew, "New", noun.isEmpty() ? tr("Add &New") : tr("&New %1").arg(noun),
+                     [added] { added->addNew(); });
+    made.save = entry(ScreenPane::Save, "Save", noun.isEmpty() ? tr("&Save") : tr("&Save %1").arg(noun),
+                      [added] { added->save(); });
+    made.remove = entry(ScreenPane::Delete, "Delete", noun.isEmpty() ? tr("De&lete") : tr("De&lete %1").arg(noun),
+                        [added] { added->remove(); });
+    made.cancel = entry(ScreenPane::Cancel, "Cancel", tr("Can&cel"), [added] { added->cancel(); });
 }
 
-void RecordScreen::addOrder(RecordPane* owner, const QString& name, const QString& caption, const QString& entry,
+QPushButton* RecordScreen::addButton(const QString& name, const QString& caption, const std::function<void()>& press) {
+    auto* button = new QPushButton(caption, buttons_);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, press);
+    auto* row = static_cast<QHBoxLayout*>(buttons_->layout());
+    row->insertWidget(row->indexOf(add_) + 1, button);
+    QWidget::setTabOrder(add_, button);
+    return button;
+}
+
+void RecordScreen::addOrder(ScreenPane* owner, const QString& name, const QString& caption, const QString& entry,
                             const std::function<void()>& run) {
-    QPushButton* button = nullptr;
-    if (!name.isEmpty()) {
-        button = new QPushButton(caption, buttons_);
-        button->setObjectName(name);
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, run);
-        auto* row = static_cast<QHBoxLayout*>(buttons_->layout());
-        row->insertWidget(row->indexOf(add_) + 1, button);
-    }
+    QPushButton* button = name.isEmpty() ? nullptr : addButton(name, caption, run);
     for (const Entry& each : entries_)
         if (each.pane == owner) orders_.push_back({owner, button, addEntry(each.menu->menu(), entry, caption, run)});
     showState();
 }
 
-RecordPane* RecordScreen::pane() const { return paneOf(tabs_->currentWidget()); }
+ScreenPane* RecordScreen::pane() const { return paneOf(tabs_->currentWidget()); }
 
-RecordPane* RecordScreen::paneOf(const QWidget* page) const {
-    RecordPane* first = nullptr;
+ScreenPane* RecordScreen::paneOf(const QWidget* page) const {
+    ScreenPane* first = nullptr;
     for (const Entry& entry : entries_) {
         if (entry.page != page) continue;
         if (entry.pane->isEditing()) return entry.pane;
@@ -126,28 +136,39 @@ void RecordScreen::catchUp() {
 /// Leaving a tab with unsaved work offers to save it; staying puts the tab back.
 void RecordScreen::changeTab(int index) {
     if (index == tab_) return;
-    RecordPane* left = paneOf(tabs_->widget(tab_));
+    ResetStatusBar();
+    ScreenPane* left = paneOf(tabs_->widget(tab_));
     if (left && !left->offerToSave(left->text().leaveQuestion)) {
         tabs_->setCurrentIndex(tab_);
         return;
     }
     tab_ = index;
-    ResetStatusBar();
     catchUp();
     showState();
     focusSearch();
 }
 
 void RecordScreen::showState() {
-    RecordPane* current = pane();
+    ScreenPane* current = pane();
     const bool editing = current && current->isEditing();
-    const bool canAdd = current && !editing && current->canAdd();
-    const bool canDelete = current && current->canDelete();
+    if (editing) edited_ = current;
     const bool saved = save_->hasFocus() && !editing;
+    showButtons(current);
+    showMenus(current);
+    if (saved && edited_) edited_->focusSearch();  // else the focus would go on to Close
+}
+
+void RecordScreen::showButtons(const ScreenPane* current) {
+    const bool editing = current && current->isEditing();
+    const bool canDelete = current && current->canDelete();
     const bool alone = !current || current == tabs_->currentWidget();
-    add_->setVisible(alone);
-    delete_->setVisible(alone);
-    add_->setEnabled(canAdd);
+    const auto knows = [current](ScreenPane::Order order) { return !current || current->orders().testFlag(order); };
+    add_->setVisible(alone && knows(ScreenPane::AddNew) && (!current || current->text().addButton.isEmpty()));
+    save_->setVisible(knows(ScreenPane::Save));
+    delete_->setVisible(alone && knows(ScreenPane::Delete));
+    cancel_->setVisible(knows(ScreenPane::Cancel));
+    refresh_->setVisible(knows(ScreenPane::Refresh));
+    add_->setEnabled(current && !editing && current->canAdd());
     save_->setEnabled(editing);
     delete_->setEnabled(canDelete);
     cancel_->setEnabled(editing);
@@ -158,15 +179,23 @@ void RecordScreen::showState() {
         order.entry->setEnabled(order.pane == current && canDelete);
     }
     for (const Entry& entry : entries_) {
+        if (!entry.addButton) continue;
+        entry.addButton->setVisible(entry.pane == current);
+        entry.addButton->setEnabled(!editing && entry.pane->canAdd());
+    }
+}
+
+void RecordScreen::showMenus(const ScreenPane* current) {
+    const bool editing = current && current->isEditing();
+    for (const Entry& entry : entries_) {
         const bool turn = editing ? entry.pane == current : entry.page == tabs_->currentWidget();
         entry.pane->setEnabled(turn || entry.page != tabs_->currentWidget());
-        entry.menu->setEnabled(turn);
-        entry.add->setEnabled(!editing && entry.pane->canAdd());
-        entry.save->setEnabled(editing);
-        entry.remove->setEnabled(!editing && entry.pane->canDelete());
-        entry.cancel->setEnabled(editing);
+        setPossible(entry.menu, turn);
+        setPossible(entry.add, !editing && entry.pane->canAdd());
+        setPossible(entry.save, editing);
+        setPossible(entry.remove, !editing && entry.pane->canDelete());
+        setPossible(entry.cancel, editing);
     }
-    if (saved) focusSearch();  // else the focus would go on to Close
 }
 
 bool RecordScreen::offerToSave() {
@@ -176,11 +205,11 @@ bool RecordScreen::offerToSave() {
 }
 
 void RecordScreen::focusSearch() {
-    if (RecordPane* current = pane()) current->focusSearch();
+    if (ScreenPane* current = pane()) current->focusSearch();
 }
 
 void RecordScreen::cameForward() { catchUp(); }
 
 void RecordScreen::undo() {
-    if (RecordPane* current = pane(); current && current->isEditing()) current->cancel();
+    if (ScreenPane* current = pane(); current && current->isEditing()) current->cancel();
 }

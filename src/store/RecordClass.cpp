@@ -162,11 +162,22 @@ void RecordClass::write(bool adding, StampSource stamps) {
         if ((adding || column->assigned_) && column->isWritten()) main_->set(column->field_, column->stored(adding));
 }
 
-QString RecordClass::twinCriteria() const {
-    if (rules_.naturalKey.empty()) return {};
+QString RecordClass::keyCriteria() const {
     ColumnValues values;
     for (const Text* column : rules_.naturalKey) values.emplace_back(column->name(), (*column)());
-    return deleted(matches(values));
+    return matches(values);
+}
+
+QString RecordClass::twinCriteria() const { return rules_.naturalKey.empty() ? QString() : deleted(keyCriteria()); }
+
+bool RecordClass::isKeyTaken() {
+    const auto& key = rules_.naturalKey;
+    const bool renamed = std::any_of(key.begin(), key.end(), [](const Text* column) { return column->assigned(); });
+    if (key.empty() || !(new_ || renamed)) return false;
+    const auto own = main_->bookmark();
+    const bool taken = find(live(keyCriteria()), false) && (new_ || main_->bookmark() != own);
+    if (own != 0) main_->setBookmark(own);
+    return taken;
 }
 
 void RecordClass::deleteRecord() {

@@ -79,6 +79,8 @@ public:
 
     /// Stands on the first row that meets the criteria and, if asked to, loads it.
     bool find(const QString& criteria, bool load);
+    /// Whether this record, new or renamed, would share its natural key with another one that is not deleted.
+    bool isKeyTaken();
 
     const std::vector<Column*>& columns() const { return columns_; }
 
@@ -153,6 +155,7 @@ private:
     void addColumn(Column* column) { columns_.push_back(column); }
     void save(StampSource stamps);
     void write(bool adding, StampSource stamps);
+    QString keyCriteria() const;
     void clearFlags();
     template <class Kind>
     Kind* find(const char* name) const;

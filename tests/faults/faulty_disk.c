@@ -7,7 +7,8 @@
  *                       full, error  the change fails with ENOSPC or EIO
  *                       stays-full   it fails with ENOSPC, and so does every write and every new file from then on
  *                       stays-broken it fails with EIO, and so does every change from then on
- *   FAULTY_DISK_REPORT  a file outside the folder that is made when the fault strikes and names the change
+ *   FAULTY_DISK_REPORT  a file outside the folder that is made when the fault strikes and names the change; a program
+ *                       that ends without a fault leaves the number of its changes there
  *
  * Of a write that fails, half the bytes reach the file. Syncs are counted and not carried out. */
 #define _GNU_SOURCE
@@ -60,12 +61,18 @@ static const char* pathOfName(const char* name, char* into) {
     return into;
 }
 
-static void report(const char* call, const char* path) {
+static void report(const char* what, const char* of) {
     const long file = syscall(SYS_openat, AT_FDCWD, setting("FAULTY_DISK_REPORT"), O_WRONLY | O_CREAT | O_TRUNC, 0600);
     if (file < 0) return;
-    for (const char *part[] = {call, " ", path, NULL}, **each = part; *each; ++each)
+    for (const char *part[] = {what, " ", of, NULL}, **each = part; *each; ++each)
         syscall(SYS_write, file, *each, strlen(*each));
     syscall(SYS_close, file);
+}
+
+__attribute__((destructor)) static void reportNumber(void) {
+    char number[32];
+    snprintf(number, sizeof number, "%ld", changes);
+    if (!struck) report(number, "changes");
 }
 
 /* Decides on the next change. When it is to fail, errno is set; a write is then still to be carried out by half. */

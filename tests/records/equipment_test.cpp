@@ -39,12 +39,19 @@ TEST_F(EquipmentTest, ItemsAreFoundByTheTextOfTheirEntry) {
     const struct {
         const char* entry;
         bool found;
-    } cases[]{{"Bat - Long - 29\"", true}, {"bat-long - 29\"", true}, {"Bat", false}, {"T-Ball Tee - Rubber", false}};
-    for (const auto& each : cases)
+        bool inMerge;
+    } cases[]{{"T-Ball Tee - Rubber", false, true},
+              {"T-Ball Tee - Wood", false, false},
+              {"Bat", false, false},
+              {"bat-long - 29\"", true, true},
+              {"Bat - Long - 29\"", true, true}};
+    for (const auto& each : cases) {
+        EXPECT_EQ(item.FindEquipmentMergeRecord(each.entry, false, true), each.inMerge) << each.entry;
         EXPECT_EQ(item.FindEquipmentRecord(each.entry, false, true), each.found) << each.entry;
+    }
     EXPECT_EQ(item.EquipmentId, bat);
     item.DeleteEquipmentRecord();
-    league.dialogs.expectWarning("Record Not Found...", "No Records found for Bat - Long - 29\".");
+    league.dialogs.expectWarning("Record Not Found...", "No Records found for Bat - Long - 29\"");
     EXPECT_FALSE(item.FindEquipmentRecord("Bat - Long - 29\"", true, true));
     league.dialogs.expectWarning("Record Not Found...", "No Records found.");
     EXPECT_FALSE(item.FindEquipmentRecordById(bat, true, true));

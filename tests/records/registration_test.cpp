@@ -158,24 +158,4 @@ TEST_F(RegistrationTest, ParentsAndTeamsChangeForAllTheirPlayersAtOnce) {
     EXPECT_EQ(league.count("SELECT * FROM tblRegistration WHERE [PlayerDivisionId] = 2"), 3);
 }
 
-TEST_F(RegistrationTest, RequiredFieldsHaveTheirNumbers) {
-    player.NewPlayerRecord();
-    const auto number = [&] {
-        try {
-            player.IsPlayerValid(true);
-        } catch (const RecordError& error) {
-            return error.number();
-        }
-        return 0u;
-    };
-    EXPECT_EQ(number(), 0x80040000u + 1013);
-    player.PlayerLastName = "Smith";
-    EXPECT_EQ(number(), 0x80040000u + 1014);
-    player.PlayerFirstName = "Ann";
-    player.PlayerBirthDate = QDate();
-    EXPECT_EQ(number(), 0x80040000u + 1016);
-    player.PlayerBirthDate = QDate(2012, 4, 2);
-    EXPECT_EQ(number(), 0u);
-}
-
 }  // namespace

@@ -35,23 +35,11 @@ TEST_F(SponsorTest, ANewSponsorPledgesTheDefaultFeeForTheSeason) {
         EXPECT_EQ(sponsor.SponsorPledgeAmount(), each.amount);
         EXPECT_FALSE(sponsor.IsSponsorDirty());
     }
-    const auto number = [&] {
-        try {
-            sponsor.IsSponsorValid(true);
-        } catch (const RecordError& error) {
-            return error.number() - 0x80040000u;
-        }
-        return 0u;
-    };
     sponsor.SponsorPledgeYear = "";
-    EXPECT_EQ(number(), 1013u);
     sponsor.SponsorName = "Acme";
-    EXPECT_EQ(number(), 1014u);
     sponsor.SponsorPledgeAmount = "100";
     sponsor.SaveSponsorRecord();
     EXPECT_EQ(league.value("tblSponsor", "SponsorPledgeYear"), "2026") << "a missing year is this year";
-    sponsor.SponsorPledgeAmount = "";
-    EXPECT_EQ(number(), 1016u);
 }
 
 TEST_F(SponsorTest, ADeletedSponsorComesBackWithItsPledges) {

@@ -71,30 +71,6 @@ TEST_F(VolunteerTest, ADeletedVolunteerComesBackUnderTheOldKey) {
     EXPECT_FALSE(found);
 }
 
-TEST_F(VolunteerTest, RequiredFieldsHaveTheirNumbersAndTexts) {
-    volunteer.NewVolRecord();
-    EXPECT_EQ(volunteer.VolBirthDate(), QDate(2026, 4, 22));
-    const struct {
-        Text* filled;
-        quint32 number;
-        const char* text;
-    } steps[]{{&volunteer.VolLastName, 1013, "Missing the Volunteer Last Name."},
-              {&volunteer.VolFirstName, 1014, "Missing the VolunteerFirst Name."},
-              {&volunteer.VolHomePhone, 1016, "Missing the Volunteer Home Phone."}};
-    for (const auto& step : steps) {
-        try {
-            volunteer.IsVolValid(true);
-            FAIL() << step.text;
-        } catch (const RecordError& error) {
-            EXPECT_EQ(error.number(), 0x80040000u + step.number);
-            EXPECT_EQ(error.text(), step.text);
-            EXPECT_EQ(error.source(), "Kestrelmoor.clsVol");
-        }
-        *step.filled = "x";
-    }
-    EXPECT_TRUE(volunteer.IsVolValid(true));
-}
-
 TEST_F(VolunteerTest, LinksComeAndGoSoftlyInTheirRole) {
     volunteer.FindRegVolRecord(5, 1, found);
     EXPECT_FALSE(found);

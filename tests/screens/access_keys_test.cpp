@@ -22,7 +22,8 @@ QStringList accessKeys(QWidget& screen) {
     for (const QLabel* label : screen.findChildren<QLabel*>())
         if (label->isVisible() && label->buddy()) note(label->text());
     for (const QAbstractButton* button : screen.findChildren<QAbstractButton*>())
-        if (button->isVisible() && !button->inherits("QToolButton")) note(button->text());
+        if (button->isVisible() && !button->shortcut().isEmpty() && !button->inherits("QToolButton"))
+            note(button->text());  // without a shortcut the key is that of a part of the page, for which it stands
     for (const QGroupBox* group : screen.findChildren<QGroupBox*>())
         if (group->isVisible()) note(group->title());
     for (const QMenuBar* bar : screen.findChildren<QMenuBar*>())

@@ -190,13 +190,22 @@ TEST_F(DivisionsTest, UnknownDifficultyRatingMayJoinTheList) {
 }
 
 TEST_F(DivisionsTest, OfficialNameIsForOneOrganizationOnly) {
-    EXPECT_FALSE(control(screen, "cboOfficialDivisionName")->isVisible());
+    Globals& globals = running.league.context.globals;
+    for (const auto& [name, affiliation, shown] :
+         {std::tuple("Little League", "Other", true), std::tuple("Little League West", "little league", false),
+          std::tuple("", "Other", false)}) {
+        screen->unload();
+        globals.organizationName = name;
+        globals.organizationAffiliation = affiliation;
+        screen = running.open("frmTeams");
+        EXPECT_EQ(control(screen, "cboOfficialDivisionName")->isVisible(), shown) << name << ", " << affiliation;
+    }
     run("UPDATE tblDivision SET [OfficialDivName] = \"Challenger\"");
     type(screen, "txtDivName", "Major");
     press(screen, "cmdSave");
     EXPECT_EQ(kept("Major", "OfficialDivName"), "Challenger") << "what is not shown is left alone";
     screen->unload();
-    running.league.context.globals.organizationAffiliation = "Little League";
+    globals.organizationAffiliation = "Little League";
     screen = running.open("frmTeams");
     EXPECT_TRUE(control(screen, "cboOfficialDivisionName")->isVisible());
     choose("cboOfficialDivisionName", "T-Ball BB");

@@ -226,8 +226,14 @@ TEST_F(PlayerTest, BalanceIsDueOrToBeRefunded) {
         type(screen, "mskedPlayerAmountPaid", each.paid);
         leave();
         expectBalance(each.caption, each.balance);
-        const QColor ink = control(screen, "lblPlayerBalance")->palette().color(QPalette::WindowText);
-        EXPECT_EQ(ink != screen->palette().color(QPalette::WindowText), QString(each.caption) == "Refund Due");
+        const auto isRed = [&](const QWidget* label) {
+            return label->palette().color(QPalette::WindowText) != screen->palette().color(QPalette::WindowText);
+        };
+        EXPECT_EQ(isRed(control(screen, "lblPlayerBalance")), QString(each.caption) == "Refund Due");
+        for (const QLabel* label : screen->findChildren<QLabel*>()) {
+            if (label->text() != each.caption) continue;
+            EXPECT_EQ(isRed(label), QString(each.caption) == "Refund Due");
+        }
     }
     go(annEntry);
 }
@@ -331,7 +337,7 @@ TEST_F(PlayerTest, DuplicateGoesOverTheOtherOnlyAfterAQuestion) {
 }
 
 TEST_F(PlayerTest, PlayerWithEquipmentStaysAndOneWithoutGoesWithTheRatings) {
-    execute("INSERT INTO tblEquipmentAssignment ([PlayerId]) VALUES (1)");
+    execute("INSERT INTO tblEquipmentAssignment ([DivisionId], [TeamId], [PlayerId], [VolId]) VALUES (0, 0, 1, 0)");
     dialogs.expectError("Delete Error...",
                         "The Player being deleted has Equipment assigned to them.\n"
                         "Delete any equipment assignments\nbefore deleting this record.");
@@ -363,6 +369,7 @@ TEST_F(PlayerTest, SiblingKeepsTheFamilyAndTheFee) {
               {"dtpPlayerBirthDate", "4/2/2012"}};
     for (const auto& box : boxes) EXPECT_EQ(text(box.box), box.text) << box.box;
     EXPECT_FALSE(checked("chkPlayerMedicalForm"));
+    EXPECT_TRUE(control(screen, "txtPlayerFirstName")->hasFocus());
     type(screen, "txtPlayerFirstName", "Zoe");
     press(screen, "cmdSave");
     EXPECT_EQ(list(), (QStringList{annEntry, "Smith, Zoe - 4/2/2012", bobEntry}));

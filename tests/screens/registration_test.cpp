@@ -121,6 +121,7 @@ TEST_F(RegistrationScreenTest, AgesAreRecalculatedAndNothingElse) {
 
 TEST_F(RegistrationScreenTest, MenusFollowTheTab) {
     EXPECT_EQ(screen->windowTitle(), "Kestrelmoor - Player/Parent/Volunteer/Sponsor Registrations");
+    EXPECT_EQ(control<QLabel>(screen, "lblDataFile")->text(), running.league.context.dataFilePath);
     for (const char* name : {"mnuFileBackup", "mnuFileRestore", "mnuFileMerge"}) EXPECT_FALSE(entry(name)->isEnabled());
     const struct {
         const char* group;

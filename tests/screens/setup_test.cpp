@@ -245,6 +245,47 @@ TEST_F(SetupTest, MaskedTextsAreKeptAsShownAndUntouchedMasksAsNothing) {
     }
 }
 
+TEST_F(SetupTest, NameOfALiveRecordIsRefused) {
+    showSchools();
+    for (const char* name : {"Elm", "Fir"}) addSchool(name);
+    const auto refuse = [&](const QString& name) {
+        type(screen, "txtSchoolName", name);
+        running.league.dialogs.expectWarning(
+            "Critical Error - Defaults Setup",
+            name + " already exists.\nDuplicates are not allowed.\nPlease enter another name.");
+        press(screen, "cmdSave");
+        EXPECT_TRUE(control(screen, "txtSchoolName")->hasFocus());
+        press(screen, "cmdCancel");
+    };
+    press(screen, "cmdAdd");
+    refuse("ELM");
+    EXPECT_EQ(control<QLineEdit>(screen, "txtSchoolName")->text(), "Fir");
+    refuse("Elm");
+    type(screen, "txtSchoolName", "FIR");
+    press(screen, "cmdSave");
+    EXPECT_EQ(list("cboSchoolList"), (QStringList{"Elm", "FIR"})) << "its own name may be written otherwise";
+    running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::Yes);
+    press(screen, "cmdDelete");
+    addSchool("Fir");
+    EXPECT_EQ(running.league.count("tblSchoolInfo"), 2) << "a deleted one's name is free and brings it back";
+}
+
+TEST_F(SetupTest, KeysOfTheSizesGoToTheGarmentInHand) {
+    showTab("Uniform Sizes");
+    control(screen, "cboHatSizeSearchList")->setFocus();
+    QTest::keyClick(screen, Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(control(screen, "txtHatSizeText")->hasFocus());
+    EXPECT_EQ(control<QLineEdit>(screen, "txtHatSizeText")->text(), "");
+    type(screen, "txtHatSizeText", "Aaa");
+    type(screen, "txtHatSize", "A");
+    control(screen, "cmdSave")->setFocus();
+    QTest::keyClick(control(screen, "cmdSave"), Qt::Key_Space);
+    EXPECT_TRUE(control(screen, "cboHatSizeSearchList")->hasFocus()) << "ready for the next hat";
+    running.league.dialogs.expectQuestion("Delete Confirmation", BoxAnswer::Yes);
+    QTest::keyClick(screen, Qt::Key_L, Qt::AltModifier);
+    EXPECT_EQ(status(screen), "Record \"A - Aaa\" Deleted.");
+}
+
 TEST_F(SetupTest, EachGarmentHasItsOwnSizesAndWaitsWhileAnotherIsEdited) {
     showTab("Uniform Sizes");
     EXPECT_FALSE(control(screen, "cmdAdd")->isVisible());

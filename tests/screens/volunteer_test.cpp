@@ -242,7 +242,7 @@ TEST_F(VolunteerScreenTest, NewOneOfAKnownNameGoesOverItAfterAQuestionAndComesBa
 }
 
 TEST_F(VolunteerScreenTest, VolunteerWithEquipmentStaysAndOneWithoutGoesWithTheRating) {
-    execute("INSERT INTO tblEquipmentAssignment ([VolId]) VALUES (1)");
+    execute("INSERT INTO tblEquipmentAssignment ([DivisionId], [TeamId], [PlayerId], [VolId]) VALUES (0, 0, 0, 1)");
     dialogs.expectError("Delete Error...",
                         "The Volunteer being deleted has Equipment assigned to them. Delete any equipment "
                         "assignments before deleting this record.");

@@ -8,6 +8,8 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QTest>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 #include "shell/ShellFixture.h"
@@ -95,6 +97,17 @@ TEST_F(Shell, AScreenPutsItsOwnEntriesInPlace) {
     QStringList menus;
     for (const QAction* action : setup.menuBar()->actions()) menus << action->menu()->objectName();
     EXPECT_EQ(menus, QStringList({"mnuFile", "mnuEdit", "mnuView", "mnuData", "mnuTools", "mnuHelp"}));
+}
+
+TEST_F(Shell, ToolbarStandsAtTheSideOfALowWindow) {
+    WatchedScreen& setup = watched();
+    auto* bar = setup.findChild<QToolBar*>("tbrScreens");
+    setup.setMinimumSize(300, 300);
+    for (const auto& [height, area] : {std::pair(360, Qt::LeftToolBarArea), std::pair(600, Qt::TopToolBarArea)}) {
+        setup.resize(640, height);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return setup.toolBarArea(bar) == area; })) << height;
+        EXPECT_TRUE(bar->isVisible());
+    }
 }
 
 TEST_F(Shell, StatusLineKeepsItsTextUnderAPassingHint) {

@@ -43,7 +43,7 @@ TEST(SchemaTest, NewFileStartsWithItsVersionAndLookupRowsOnly) {
         EXPECT_EQ(league.count(table), 0) << table;
 }
 
-/// Every form of statement that the program's screens, classes and reports use.
+/// The less plain forms of statement that screens and reports use.
 TEST(SchemaTest, StatementsOfTheProgramRunAsTheyStand) {
     LeagueFile league;
     const Database database = league.database();
@@ -53,9 +53,6 @@ TEST(SchemaTest, StatementsOfTheProgramRunAsTheyStand) {
     database.execute(
         "INSERT INTO tblRegistration ([PlayerLastName], [PlayerFirstName], [PlayerBirthDate], [PlayerDivisionId], "
         "[PlayerTeamId], [PlayerActive], [PlayerAge]) VALUES (\"O'Hara\", \"Zoë\", #4/2/2012#, 1, 0, True, 14)");
-    database.execute(
-        "INSERT INTO tblVolunteer ([VolLastName], [VolFirstName], [VolHomePhone]) VALUES (\"Hara\", \"Al\", "
-        "\"555-1234\")");
     database.execute("INSERT INTO tblEquipment ([ItemName], [Description], [NbrItems]) VALUES (\"Bat\", \"Long\", 5)");
     database.execute("INSERT INTO tblEquipmentAvailable VALUES (1, 5, 2, 3)");
     database.execute(
@@ -65,46 +62,23 @@ TEST(SchemaTest, StatementsOfTheProgramRunAsTheyStand) {
         "INSERT INTO tblSchedule ([Date], [Time], [division], [HomeTeam], [VisitorsTeam]) VALUES "
         "(#4/25/2026#, #6:30 PM#, \"Minors\", \"Owls\", \"Hawks\")");
     const std::vector<std::pair<const char*, int>> statements{
-        {"SELECT * FROM tblDivision ORDER BY [DivName]", 1},
         {"SELECT *, ([PlayerLastName] & \", \" & [PlayerFirstName] & \" - \" & [PlayerBirthDate]) as Name FROM "
          "tblRegistration WHERE "
          "tblRegistration![DeletedFlag] = False   AND tblRegistration![PlayerActive] = True ORDER BY [PlayerLastName], "
          "[PlayerFirstName], [PlayerBirthDate]",
          1},
-        {"SELECT *, ([VolLastName] & \", \" & [VolFirstName] & \" - \" & [VolHomePhone]) as Name FROM tblVolunteer "
-         "WHERE [DeletedFlag] = False ORDER BY [VolLastName], [VolFirstName]",
-         1},
-        {"SELECT [StateId] from tblState ORDER BY [StateId]", 63},
-        {"SELECT [HowFeePaidText] from tblHowFeePaid ORDER BY [HowFeePaidText]", 7},
         {"SELECT DISTINCT[OrganizationName] FROM tblOfficialDivisionNames ORDER BY [OrganizationName]", 24},
-        {"SELECT *, ([OfficialDivisionName]) as Name FROM tblOfficialDivisionNames WHERE "
-         "tblOfficialDivisionNames.OrganizationName = \"Little League\" ORDER BY [OfficialDivisionName]",
-         24},
-        {"SELECT Count(*) as PlayerCount from tblRegistration WHERE tblRegistration![PlayerActive] = TRUE   AND "
-         "tblRegistration![DeletedFlag] = FALSE",
-         1},
-        {"SELECT (COUNT(*)) as RcdCount FROM tblSchedule WHERE [Division] = \"Minors\"  AND [DeletedFlag] = False", 1},
         {"SELECT * FROM tblSchedule WHERE [Division] = \"minors\"  AND [DeletedFlag] = False  ORDER BY [Date], [Time], "
          "[HomeTeam]",
          1},
         {"SELECT * FROM tblSchedule WHERE [Division] = \"Minors\"  AND ([VisitorsTeam] = \"Owls\"    OR  [HomeTeam] = "
          "\"Owls\")",
          1},
-        {"SELECT * from tblRegistration WHERE [PlayerTeamId] <> 0 AND [PlayerTeamId] not in (Select [TeamId] from "
-         "tblTeam ORDER BY [TeamId])",
-         0},
-        {"SELECT * from tblRegistration WHERE tblRegistration![PlayerActive] = False", 0},
-        {"SELECT * from tblDivision WHERE [DeletedFlag] = True ", 0},
-        {"SELECT COUNT(*) as RegVolCount FROM tblRegistrationVolunteer WHERE [VolId] = 1  AND [DeletedFlag] = False",
-         1},
         {"SELECT [VolPosName] FROM tblVolunteerPositions WHERE tblVolunteerPositions![DeletedFlag] = False   AND "
          "tblVolunteerPositions![VolPosId] NOT IN "
          "(SELECT tblVolToPosition![VolPosId] FROM tblVolToPosition WHERE tblVolToPosition![VolId] = 1 AND "
          "tblVolToPosition![PlayerId] = 0) ORDER by [VolPosName]",
          14},
-        {"SELECT [PreviousPledgeYear], [PreviousPledgeAmount], [PreviousPaidAmount] FROM tblSponsorPreviousPledge "
-         "WHERE [SponsorId] = 1  AND [DeletedFlag] = False  ORDER BY [PreviousPledgeYear] ASC",
-         0},
         {"SELECT *, ([PlayerLastName] & \", \" & [PlayerFirstName] & \" - \" & [PlayerBirthDate]) as Name FROM "
          "tblRegistration WHERE (([PlayerDivisionId] = 1 AND "
          "[PlayerTeamId] = 0) OR [PlayerDivisionId] = 0) AND [PlayerActive] = TRUE AND [DeletedFlag] = False ORDER BY "
@@ -126,17 +100,11 @@ TEST(SchemaTest, StatementsOfTheProgramRunAsTheyStand) {
          "tblEquipment![EquipId] = tblEquipmentAvailable![EquipmentId]   AND tblEquipmentAvailable![QuantityAvailable] "
          "> 0  ORDER BY [ItemName], [Description]",
          1},
-        {"SELECT SUM([DistributionQuantity]) as QuantityDistributed FROM tblEquipmentAssignment WHERE [EquipmentId] = "
-         "1   AND [DeletedFlag] = False",
-         1},
         {"SELECT tblEquipmentAssignment.*, tblEquipment![ItemName], tblEquipment![Description] FROM "
          "tblEquipmentAssignment, tblEquipment WHERE tblEquipmentAssignment![DivisionId] = 1   AND "
          "tblEquipmentAssignment![DeletedFlag] = False   AND tblEquipmentAssignment![EquipmentId] = "
          "tblEquipment![EquipId] ORDER BY tblEquipment![ItemName], tblEquipment![Description]",
          1},
-        {"SELECT COUNT(*) as WinCount FROM tblResults WHERE [HomeTeamId] = 1  AND [HomeTeamScore] > [VisitorTeamScore]",
-         1},
-        {"SELECT * from tblTempResults ORDER BY [WinPercentage] DESC, [TeamName]", 0},
         {"SELECT *, tblteam![TeamName] as Name FROM tblTeam WHERE tblteam![DivisionId] = 1  AND tblTeam![DeletedFlag] "
          "= False ORDER BY tblTeam![TeamName]",
          0},
@@ -144,7 +112,6 @@ TEST(SchemaTest, StatementsOfTheProgramRunAsTheyStand) {
          "tblRegistration.PlayerDivisionId = tblDivision.DivisionId WHERE [PlayerAge] < 15 AND "
          "tblRegistration.DeletedFlag = False ORDER BY [DivName]",
          1},
-        {"SELECT * FROM tblTempFeeReport WHERE [BalanceCalculation] < 0 ", 0},
     };
     for (const auto& [statement, rows] : statements) {
         SCOPED_TRACE(statement);
@@ -159,74 +126,20 @@ TEST(SchemaTest, StatementsOfTheProgramRunAsTheyStand) {
         "WHERE tblRegistration![PlayerActive] = True AND tblRegistration![DeletedFlag] = False");
     EXPECT_EQ(league.value("tblTempFeeReport", "DivisionName"), "Minors");
     EXPECT_EQ(league.value("tblTempFeeReport", "PlayerFeePaid"), "0");
-    EXPECT_EQ(database.openRecordset(statements[16].first).recordCount(), 0);
-    EXPECT_EQ(league.value(statements[1].first, "Name"), "O'Hara, Zoë - 4/2/2012");
+    EXPECT_EQ(league.value(statements[0].first, "Name"), "O'Hara, Zoë - 4/2/2012");
 }
 
-TEST(SchemaTest, ListsAndNaturalKeysAreAnsweredByIndexes) {
+TEST(SchemaTest, PlayerListIsReadInOrderFromAnIndexAlone) {
     LeagueFile league;
-    const std::vector<std::pair<const char*, const char*>> queries{
-        {"SELECT ([PlayerLastName] & \", \" & [PlayerFirstName] & \" - \" & [PlayerBirthDate]) as Name FROM "
-         "tblRegistration WHERE tblRegistration![DeletedFlag] = False "
-         "ORDER BY [PlayerLastName], [PlayerFirstName], [PlayerBirthDate]",
-         "COVERING INDEX"},
-        {"SELECT * FROM tblRegistration WHERE PlayerLastName = \"a\" AND PlayerFirstName = \"b\" AND PlayerBirthDate = "
-         "#4-2-2012#",
-         "SEARCH"},
-        {"SELECT * FROM tblDivision WHERE DeletedFlag = False AND DivName = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblTeam WHERE DeletedFlag = False AND TeamName = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblVolunteer WHERE VolLastName = \"a\" AND VolFirstName = \"b\" AND VolHomePhone = \"c\"",
-         "SEARCH"},
-        {"SELECT * FROM tblSponsor WHERE DeletedFlag = False AND SponsorName = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblSchoolInfo WHERE DeletedFlag = True AND SchoolName = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblCertifications WHERE DeletedFlag = False AND CertificationName = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblTeam WHERE DeletedFlag = True AND DivisionId = 1 AND TeamName = \"a\"",
-         "(DivisionId=? AND TeamName=? AND DeletedFlag=?)"},
-        {"SELECT * FROM tblVolunteer WHERE DeletedFlag = True AND VolLastName = \"a\" AND VolFirstName = \"b\" AND "
-         "VolHomePhone = \"c\"",
-         "VolHomePhone=?"},
-        {"SELECT * FROM tblField WHERE DeletedFlag = False AND FieldName = \"a\"", "FieldName=?"},
-        {"SELECT * FROM tblTeamField WHERE FieldId = 1 AND DivisionId = 2 ORDER BY [FieldId]", "FieldId=?"},
-        {"SELECT * FROM tblTeamVolunteer WHERE DeletedFlag = False AND DivisionId = 1 AND TeamId = 2 AND VolPosName = "
-         "\"a\"",
-         "(TeamId=? AND VolPosName=?)"},
-        {"SELECT * FROM tblTeamVolunteer WHERE VolId = 1 AND DivisionId = 1 AND TeamId = 2 AND VolPosName = \"a\"",
-         "VolPosName=?"},
-        {"SELECT * FROM tblRegistrationVolunteer WHERE DeletedFlag = False AND PlayerId = 1 AND VolGender = \"Dad\"",
-         "(PlayerId=? AND VolGender=?)"},
-        {"SELECT * FROM tblRegistrationVolunteer WHERE VolId = 1 AND VolGender = \"Dad\"", "VolId=?"},
-        {"SELECT * FROM tblVolToPosition WHERE DeletedFlag = True AND VolId = 1 AND PlayerId = 2 AND VolPosId = 3",
-         "(VolPosId=? AND VolId=? AND PlayerId=?)"},
-        {"SELECT * FROM tblVolToPosition WHERE VolId = 1 AND PlayerId = 0", "(PlayerId=? AND VolId=?)"},
-        {"SELECT * FROM tblSponsorPreviousPledge WHERE DeletedFlag = False AND SponsorId = 1 AND PreviousPledgeYear = "
-         "\"2026\"",
-         "PreviousPledgeYear=?"},
-        {"SELECT * FROM tblRegistration WHERE [PlayerMomLastName] = \"a\" AND [PlayerMomFirstName] = \"b\" AND "
-         "[PlayerMomPhone] = \"c\"",
-         "PlayerMomPhone=?"},
-        {"SELECT * FROM tblRegistration WHERE PlayerDivisionId = 1 AND PlayerTeamId = 2", "PlayerTeamId=?"},
-        {"SELECT * FROM tblVolunteerPositions WHERE DeletedFlag = False AND VolPosName = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblRating WHERE DeletedFlag = False AND RatingText = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblDifficultyRating WHERE DeletedFlag = False AND DifficultyRatingText = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblVendor WHERE DeletedFlag = False AND VendorName = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblInsurance WHERE DeletedFlag = False AND InsAgencyName = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblHatSize WHERE DeletedFlag = False AND HatSizeText = \"a\"", "SEARCH"},
-        {"SELECT * FROM tblAbilityRating WHERE PlayerId = 1", "SEARCH"},
-        {"SELECT * FROM tblAbilityRating WHERE VolId = 1", "SEARCH"},
-        {"SELECT * FROM tblEquipment WHERE DeletedFlag = False AND ItemName = \"a\" AND Description = \"b\"", "SEARCH"},
-        {"SELECT * FROM tblEquipmentAssignment WHERE DeletedFlag = False AND DivisionId = 1 AND TeamId = 1 AND "
-         "PlayerId = 0 AND VolId = 0",
-         "idxHolder"},
-        {"SELECT * FROM tblSchedule WHERE division = \"a\" ORDER BY [Date], [Time]", "SEARCH"},
-        {"SELECT * FROM tblResults WHERE DivisionId = 1 AND HomeTeamId = 1 AND VisitorTeamId = 2 AND GameDate = "
-         "#4-2-2012#",
-         "SEARCH"},
-        {"SELECT * FROM tblTempResults WHERE [TeamId] = 1", "SEARCH"}};
-    for (const auto& [query, step] : queries) {
-        const QString plan = league.database().queryPlan(query).join('\n');
-        EXPECT_TRUE(plan.contains(step)) << query << "\n" << plan.toStdString();
-        EXPECT_FALSE(plan.contains("TEMP B-TREE")) << query << "\n" << plan.toStdString();
-    }
+    const QString plan = league.database()
+                             .queryPlan(
+                                 "SELECT ([PlayerLastName] & \", \" & [PlayerFirstName] & \" - \" & "
+                                 "[PlayerBirthDate]) as Name FROM tblRegistration WHERE "
+                                 "tblRegistration![DeletedFlag] = False "
+                                 "ORDER BY [PlayerLastName], [PlayerFirstName], [PlayerBirthDate]")
+                             .join('\n');
+    EXPECT_TRUE(plan.contains("COVERING INDEX")) << plan.toStdString();
+    EXPECT_FALSE(plan.contains("TEMP B-TREE")) << plan.toStdString();
 }
 
 }  // namespace

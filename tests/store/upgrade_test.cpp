@@ -102,6 +102,7 @@ const std::vector<Expected> expectations{
     {"tblRegistration", "[PlayerLastName] = \"Daphne\"", "PlayerAge", {}, "0"},
     {"tblRegistration", "[PlayerLastName] = \"Elm\"", "PlayerAge", {{0, "9"}, {33, "10"}}, "0"},
     {"tblRegistration", "[PlayerLastName] = \"Elm\"", "PlayerCustomField1", {{20, nothing}}, ""},
+    {"tblRegistration", "[PlayerLastName] = \"Elm\"", "PlayerSchoolName", {}, ""},
     {"tblRegistration", "[PlayerLastName] = \"Elm\"", "PlayerHandLeft", {}, "0"},
     {"tblRegistration", "[PlayerLastName] = \"Elm\"", "DeletedFlag", {}, "0"},
     {"tblRegistration", "[PlayerLastName] = \"Elm\"", "TimeStamp", {{14, nothing}}, "0"},

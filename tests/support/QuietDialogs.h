@@ -3,7 +3,7 @@
 #include "platform/dialogs/Dialogs.h"
 
 /// Dialogs for programs that nobody watches: they answer at once and keep the text of the last box.
-class QuietDialogs final : public Dialogs {
+class QuietDialogs : public Dialogs {
 public:
     BoxAnswer box(BoxKind, BoxButtons, const QString&, const QString& text) override {
         last = text;

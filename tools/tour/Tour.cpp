@@ -33,14 +33,19 @@ constexpr Stop afterLastName[] = {
     {"txtPlayerYearsExperience", "2"},
     {"chkPlayerHandRight", " "},
     {"chkPlayerHandLeft", ""},
+    {"dtpPlayerRegistrationDate", ""},
+    {"cboPlayerDivision", "Rookie Ball"},
+    {"chkPlayerActive", ""},
+    {"chkPlayerIdCheck", ""},
+    {"chkPlayerBirthCertificateChecked", ""},
+    {"chkPlayerIsUmpire", ""},
+    {"txtPlayerTryoutNumber", "118"},
+    {"txtPlayerRegistrationNumber", ""},
     {"mskedPlayerFeeAmount", ""},  // taken from the division
     {"mskedPlayerFundRaiserFee", ""},
     {"mskedPlayerOtherFees", "5"},
     {"mskedPlayerAmountPaid", "60"},
     {"cboPlayerHowFeePaid", "Check"},
-    {"dtpPlayerRegistrationDate", ""},
-    {"txtPlayerTryoutNumber", "118"},
-    {"cboPlayerDivision", "Rookie Ball"},
 };
 
 constexpr Stop ofDivision[] = {
@@ -210,7 +215,7 @@ void Tour::findChild() {
 void Tour::addSibling() {
     guide_.begin("A sibling, whose parent volunteers too");
     guide_.click("cmdAddSibling");
-    guide_.waitForFocus("txtPlayerLastName");
+    guide_.waitForFocus("txtPlayerFirstName");
     for (const Stop& stop : ofSibling) guide_.fill(stop.field, stop.typed);
     guide_.picture("sibling");
     guide_.clickTab("Parent Info.");

@@ -400,31 +400,39 @@ void Recordset::update() {
     rowLoaded_ = false;
 }
 
-void Recordset::writeRow() {
+/// The statement that writes the columns set now. Row after row it is the same one.
+const QString& Recordset::writeSql() {
+    const bool same = mode_ == written_.mode &&
+                      std::equal(pending_.begin(), pending_.end(), written_.fields.begin(), written_.fields.end(),
+                                 [](const auto& column, int field) { return column.first == field; });
+    if (same) return written_.sql;
+    written_.mode = mode_;
+    written_.fields.clear();
     QStringList names;
-    QStringList marks;
-    Values values;
-    for (auto& [field, value] : pending_) {
+    for (const auto& [field, value] : pending_) {
+        written_.fields.push_back(field);
         names << sql::identifier(fields_[static_cast<size_t>(field)].name);
-        marks << QStringLiteral("?");
-        values.push_back(value);
     }
     const QString table = sql::identifier(query_.table);
-    if (mode_ == EditMode::Add) {
-        const QString text =
-            names.isEmpty()
-                ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table)
-                : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, names.join(u','), marks.join(u','));
-        Statement(*connection_, text).bind(values).run();
-        return;
-    }
-    if (names.isEmpty()) return;
+    if (mode_ == EditMode::Edit)
+        written_.sql =
+            QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?").arg(table, names.join(QStringLiteral(" = ?, ")));
+    else if (names.isEmpty())
+        written_.sql = QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table);
+    else
+        written_.sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (?%3)")
+                           .arg(table, names.join(u','), QStringLiteral(",?").repeated(names.size() - 1));
+    return written_.sql;
+}
+
+void Recordset::writeRow() {
+    if (mode_ == EditMode::Edit && pending_.empty()) return;
     const qint64 before = connection_->changes();
-    Statement write(
-        *connection_,
-        QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?").arg(table, names.join(QStringLiteral(" = ?, "))));
-    write.bind(values).bind(Value{current_}).run();
-    if (connection_->changes() == before) refuseRemoved();
+    Statement write(*connection_, writeSql());
+    for (const auto& [field, value] : pending_) write.bind(value);
+    if (mode_ == EditMode::Edit) write.bind(Value{current_});
+    write.run();
+    if (mode_ == EditMode::Edit && connection_->changes() == before) refuseRemoved();
 }
 
 void Recordset::remove() {

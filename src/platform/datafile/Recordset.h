@@ -105,6 +105,7 @@ private:
     QString rowsOf(const char* wanted, const QString& criteria) const;
     QString keyQuery(const QString& criteria, const char* ending) const;
     Values keyValues(const Values& criteria = {}) const;
+    const QString& writeSql();
     void writeRow();
 
     std::shared_ptr<Connection> connection_;
@@ -137,6 +138,11 @@ private:
 
     EditMode mode_ = EditMode::None;
     std::vector<std::pair<int, Value>> pending_;
+    struct Written {
+        EditMode mode = EditMode::None;
+        std::vector<int> fields{};
+        QString sql{};
+    } written_;  ///< how the last row was written
     qint64 lastModified_ = 0;
 };
 

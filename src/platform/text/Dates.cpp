@@ -81,7 +81,7 @@ QString formatTime(QTime time, const QString& format) {
 }
 
 std::optional<QTime> parseTime(const QString& text) {
-    const QRegularExpression form(
+    static const QRegularExpression form(
         QStringLiteral(R"(^([0-9]{1,2})(?::([0-9]{1,2}))?(?::([0-9]{1,2}))?\s*(?:([ap])m?)?$)"),
         QRegularExpression::CaseInsensitiveOption);
     const auto match = form.match(text.trimmed());
@@ -97,7 +97,7 @@ std::optional<QTime> parseTime(const QString& text) {
 }
 
 QString NormalizeShortDate(const QString& text) {
-    const QRegularExpression form(QStringLiteral("^([0-9]{1,2})/([0-9]{1,2})/([0-9]{1,2})$"));
+    static const QRegularExpression form(QStringLiteral("^([0-9]{1,2})/([0-9]{1,2})/([0-9]{1,2})$"));
     const auto match = form.match(text);
     if (!match.hasMatch()) return text;
     const auto twoDigits = [&](int part) { return match.captured(part).rightJustified(2, u'0'); };

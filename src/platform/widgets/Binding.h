@@ -40,6 +40,12 @@ struct FlagBinding {
     FlagBinding(Column& column) : FlagBinding(flagBinding(column)) {}
 };
 
+/// The place of an answer in its row, counted from 0.
+struct IndexBinding {
+    std::function<int()> read;
+    std::function<void(int)> write;
+};
+
 /// A null date stands for none.
 struct DateBinding {
     std::function<QDate()> read;

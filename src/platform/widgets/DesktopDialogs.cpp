@@ -5,7 +5,10 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QScreen>
 #include <QWindow>
+
+#include "platform/widgets/WaitCursor.h"
 
 namespace {
 
@@ -59,6 +62,7 @@ QStringList nameFilters(const QString& filters) {
 }
 
 std::optional<QString> pickFile(const FileRequest& request, QFileDialog::AcceptMode mode) {
+    const UsualCursor cursor;
     QFileDialog dialog(QApplication::activeWindow(), request.title);
     dialog.setAcceptMode(mode);
     // Opening takes names that do not exist as well: what is missing is for the caller to say.
@@ -77,6 +81,7 @@ std::optional<QString> pickFile(const FileRequest& request, QFileDialog::AcceptM
 DesktopDialogs::DesktopDialogs() { Q_INIT_RESOURCE(message); }
 
 BoxAnswer DesktopDialogs::box(BoxKind kind, BoxButtons buttons, const QString& title, const QString& text) {
+    const UsualCursor cursor;
     const Buttons offered = buttonsOf(buttons);
     const bool destroys = buttons == BoxButtons::YesNo && title.contains(QStringLiteral("Delete"), Qt::CaseInsensitive);
     QMessageBox message(QMessageBox::NoIcon, title, text, offered.all, QApplication::activeWindow());
@@ -97,7 +102,11 @@ std::optional<QString> DesktopDialogs::saveFile(const FileRequest& request) {
 }
 
 int DesktopDialogs::showModal(QDialog& form) {
-    if (const QWidget* window = QApplication::activeWindow(); window && !form.parentWidget()) {
+    const UsualCursor cursor;
+    const QWidget* window = QApplication::activeWindow();
+    if (form.testAttribute(Qt::WA_Resized))  // its buttons have to be in reach on a small screen too
+        form.resize(form.size().boundedTo((window ? window : &form)->screen()->availableSize()));
+    if (window && !form.parentWidget()) {
         form.winId();  // makes the form's window, so that it can be told over which one it belongs
         form.windowHandle()->setTransientParent(window->windowHandle());
     }

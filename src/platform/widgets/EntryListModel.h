@@ -5,7 +5,7 @@
 #include <vector>
 
 /// Plain texts in a list, light enough for a hundred thousand of them.
-class EntryListModel final : public QAbstractListModel {
+class EntryListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:

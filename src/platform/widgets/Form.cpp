@@ -1,7 +1,9 @@
 #include "platform/widgets/Form.h"
 
+#include <QComboBox>
 #include <QFocusEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QTabWidget>
@@ -92,6 +94,10 @@ void Form::focusField(const QString& name) {
             if (tabs->widget(index)->isAncestorOf(editor)) tabs->setCurrentIndex(index);
     }
     editor->setFocus(Qt::OtherFocusReason);
+    // Said here too: a window that has yet to come back from behind a box tells its fields nothing of the focus now.
+    auto* line = qobject_cast<QLineEdit*>(editor);
+    if (auto* combo = qobject_cast<QComboBox*>(editor)) line = combo->lineEdit();
+    if (line) line->selectAll();
     for (QWidget* around = editor->parentWidget(); around; around = around->parentWidget())
         if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(editor);
 }
@@ -112,6 +118,15 @@ void Form::setCaption(const QString& name, const QString& caption) {
     if (!field || !field->caption) return;
     field->caption->setText(QString(caption).replace(u'&', QStringLiteral("&&")));
     field->editor->setAccessibleName(caption);
+}
+
+void Form::setInk(const QString& name, const QColor& ink) {
+    const Kept* field = find(name);
+    if (!field) return;
+    QPalette colours;
+    if (ink.isValid()) colours.setColor(QPalette::WindowText, ink);
+    field->editor->setPalette(colours);
+    if (field->caption) field->caption->setPalette(colours);
 }
 
 void Form::setDateFormat(const QString& format) {

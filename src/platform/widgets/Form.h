@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QVariant>
 #include <QWidget>
 #include <functional>
@@ -31,6 +32,8 @@ public:
     void setFieldVisible(const QString& name, bool visible);
     /// Gives a field another caption, such as one its user chose; an '&' in it is no access key.
     void setCaption(const QString& name, const QString& caption);
+    /// Colours the caption and the text of a field; without a colour they have the usual one.
+    void setInk(const QString& name, const QColor& ink);
     void setDateFormat(const QString& format);
     /// The first field whose text cannot be taken for a value, such as a wrong date; empty when there is none.
     QString unreadableField() const;

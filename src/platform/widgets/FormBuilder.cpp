@@ -13,7 +13,7 @@
 #include "platform/widgets/FilteredEdit.h"
 #include "platform/widgets/FormLayout.h"
 #include "platform/widgets/MaskedEdit.h"
-#include "platform/widgets/YesNoPair.h"
+#include "platform/widgets/RadioRow.h"
 
 namespace {
 
@@ -66,6 +66,19 @@ FormBuilder& FormBuilder::below() {
 }
 
 FormBuilder& FormBuilder::tab(const QString& title) {
+    auto* area = new QScrollArea(form_);
+    scrolled(area)->layout()->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
+    addTab(title, area);
+    return *this;
+}
+
+FormBuilder& FormBuilder::tab(const QString& title, QWidget* content) {
+    addTab(title, content);
+    form_->addPage(content);
+    return *this;
+}
+
+void FormBuilder::addTab(const QString& title, QWidget* content) {
     if (!tabs_) {
         tabs_ = new QTabWidget(form_);
         auto* layout = new QVBoxLayout(form_);
@@ -73,10 +86,7 @@ FormBuilder& FormBuilder::tab(const QString& title) {
         layout->addWidget(tabs_);
         form_->setTabs(tabs_);
     }
-    auto* area = new QScrollArea(tabs_);
-    scrolled(area)->layout()->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
-    tabs_->addTab(area, title);
-    return *this;
+    tabs_->addTab(content, title);
 }
 
 FormBuilder& FormBuilder::column(int weight) {
@@ -296,18 +306,24 @@ FormBuilder& FormBuilder::check(const QString& name, const QString& caption, Fla
     return *this;
 }
 
-FormBuilder& FormBuilder::yesNo(const QString& name, const QString& caption, FlagBinding isYes) {
-    auto* editor = new YesNoPair(name, withoutMarks(caption));
-    named(editor, name, caption);
+FormBuilder& FormBuilder::options(const QString& name, const QString& caption, const QStringList& answers,
+                                  IndexBinding value) {
+    auto* editor = new RadioRow(name, withoutMarks(caption), answers);
     QLabel* label = place(editor, caption, editor);
     form_->addField({.name = name,
                      .editor = editor,
                      .caption = label,
-                     .read = [read = isYes.read] { return QVariant(read()); },
-                     .write = [write = isYes.write](const QVariant& now) { write(now.toBool()); },
-                     .display = [editor](const QVariant& now) { editor->setYes(now.toBool()); }});
-    QObject::connect(editor, &YesNoPair::edited, form_, [form = form_, name](bool now) { form->edit(name, now); });
+                     .read = [read = value.read] { return QVariant(read()); },
+                     .write = [write = value.write](const QVariant& now) { write(now.toInt()); },
+                     .display = [editor](const QVariant& now) { editor->setIndex(now.toInt()); }});
+    QObject::connect(editor, &RadioRow::edited, form_, [form = form_, name](int now) { form->edit(name, now); });
     return *this;
+}
+
+FormBuilder& FormBuilder::yesNo(const QString& name, const QString& caption, FlagBinding isYes) {
+    return options(
+        name, caption, {Form::tr("Yes"), Form::tr("No")},
+        {[read = isYes.read] { return read() ? 0 : 1; }, [write = isYes.write](int index) { write(index == 0); }});
 }
 
 FormBuilder& FormBuilder::comments(const QString& name, const QString& caption, Binding value, KeyFilter filter) {

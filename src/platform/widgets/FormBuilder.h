@@ -27,6 +27,8 @@ public:
 
     /// Begins a page of the form's tabs; what follows stands on it.
     FormBuilder& tab(const QString& title);
+    /// A page of the form's tabs that is one widget of the caller's own and takes all the room there is.
+    FormBuilder& tab(const QString& title, QWidget* content);
     /// Begins a column beside the one before.
     FormBuilder& column(int weight = 1);
     /// What follows stands below all columns so far, over the whole width.
@@ -51,6 +53,8 @@ public:
     FormBuilder& check(const QString& name, const QString& caption, FlagBinding value);
     /// The next two fields share one place behind this caption.
     FormBuilder& together(const QString& caption);
+    /// One of a few answers side by side, by its index.
+    FormBuilder& options(const QString& name, const QString& caption, const QStringList& answers, IndexBinding value);
     FormBuilder& yesNo(const QString& name, const QString& caption, FlagBinding isYes);
     FormBuilder& comments(const QString& name, const QString& caption, Binding value, KeyFilter filter = {});
     /// A text that is only shown.
@@ -59,6 +63,7 @@ public:
     FormBuilder& custom(QWidget* widget);
 
 private:
+    void addTab(const QString& title, QWidget* content);
     void page(QWidget* content);
     QWidget* scrolled(QScrollArea* area);
     QWidget* named(QWidget* editor, const QString& name, const QString& caption);

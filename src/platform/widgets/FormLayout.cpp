@@ -9,6 +9,13 @@ namespace {
 
 constexpr int pairIndent = spacing::group - spacing::label;  ///< before the second pair of a line and those after it
 
+/// The least width of a caption or field wherever it stands: without the indent of its present place. What the lines
+/// need must not depend on how they are broken now, or a scroll bar that comes and goes would break them for ever.
+int leastWidthOf(QWidget* widget) {
+    const bool countsIndent = widget->layout() || qobject_cast<QLabel*>(widget);
+    return QWidgetItem(widget).minimumSize().width() - (countsIndent ? widget->contentsMargins().left() : 0);
+}
+
 /// The least width for a frame's content: its own, or that of its lines with all their pairs.
 int fullWidthOf(const QWidget& column) {
     int width = column.minimumSizeHint().width();
@@ -66,10 +73,9 @@ int PairGrid::widthOf(int pairs) const {
             if (wide != (end - first > 1)) continue;
             if (item.caption) {
                 int& column = columns[static_cast<size_t>(first - 1)];
-                column = std::max(column, item.caption->minimumSizeHint().width());
+                column = std::max(column, indent + leastWidthOf(item.caption));
             }
-            const QWidgetItem field(item.field);
-            const int needed = field.minimumSize().width() + (item.caption ? 0 : indent);
+            const int needed = leastWidthOf(item.field) + (item.caption ? 0 : indent);
             columns[static_cast<size_t>(end - 1)] += std::max(0, needed - widthFrom(first, end));
         }
     return widthFrom(0, 2 * pairs);

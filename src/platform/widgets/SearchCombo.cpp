@@ -63,7 +63,9 @@ void SearchCombo::settleOn(int index) {
 void SearchCombo::take() {
     const QString text = currentText();
     const int shown = currentIndex();
-    const int index = shown >= 0 && entryAt(shown) == text ? shown : CompleteComboText(text, list().entries());
+    int index = shown;
+    if (shown < 0 || entryAt(shown) != text)
+        index = text.isEmpty() ? indexOf(text) : CompleteComboText(text, list().entries());
     if (index < 0) return revert();
     showEntry(index, entryAt(index));
     settleOn(index);

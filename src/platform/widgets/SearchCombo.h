@@ -6,8 +6,8 @@
 
 /// The list in which a user looks up a record: type the beginning of an entry, then Enter or leave the box to take it;
 /// or choose with the arrow keys or from the opened list. Escape, or leaving with a text that no entry begins with,
-/// returns to the entry shown before. While the box has the focus an entry is selected as a whole: typing begins
-/// another search.
+/// returns to the entry shown before; an emptied box takes the empty entry, if the list has one. While the box has the
+/// focus an entry is selected as a whole: typing begins another search.
 class SearchCombo final : public ListCombo {
     Q_OBJECT
 

@@ -8,10 +8,12 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
+#include "platform/widgets/WaitCursor.h"
 #include "support/Printing.h"
 
 namespace {
@@ -50,6 +52,25 @@ TEST(DesktopDialogs, BoxesAnswerReturnAndEscape) {
         EXPECT_EQ(answerTo(Qt::Key_Return, it.buttons, it.title), it.onReturn) << it.title;
         EXPECT_EQ(answerTo(Qt::Key_Escape, it.buttons, it.title), it.onEscape) << it.title;
     }
+}
+
+TEST(DesktopDialogs, FormKeepsItsSizeWithinTheScreen) {
+    const QSize room = QGuiApplication::primaryScreen()->availableSize();
+    for (const auto& [wanted, shown] : {std::pair(QSize(300, 200), QSize(300, 200)), std::pair(2 * room, room)}) {
+        QDialog form;
+        form.resize(wanted);
+        whenShown<QDialog>([&, size = shown](QDialog& seen) { EXPECT_EQ(seen.size(), size); });
+        DesktopDialogs().showModal(form);
+    }
+}
+
+TEST(DesktopDialogs, WorkThatAsksWaitsUnderTheUsualCursor) {
+    const WaitCursor work;
+    const WaitCursor withinIt;
+    whenShown<QMessageBox>([](QMessageBox&) { EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr); });
+    DesktopDialogs().box(BoxKind::Question, BoxButtons::YesNo, "Save Record?", "Text");
+    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
 }
 
 TEST(DesktopDialogs, BoxesShowWhatTheyAreGivenAsPlainText) {

@@ -59,6 +59,26 @@ protected:
     Form* form = new Form;
 };
 
+TEST_F(FormTest, LinesAreBrokenAlikeHoweverTheWidthCameAbout) {
+    const auto heightAt = [&](int width) {
+        form->resize(width, 160);
+        for (int round = 0; round < 20; ++round) QCoreApplication::processEvents();  // one posts the next
+        return static_cast<QScrollArea*>(form->findChild<QTabWidget*>()->currentWidget())->widget()->height();
+    };
+    std::map<int, int> growing;
+    for (int width = 300; width <= 800; width += 4) growing[width] = heightAt(width);
+    EXPECT_GT(growing[300], growing[800]);
+    for (int width = 800; width >= 300; width -= 4) EXPECT_EQ(heightAt(width), growing[width]) << width;
+}
+
+TEST_F(FormTest, FieldThatIsGoneToIsReadyToBeTypedOver) {
+    QWidget inFront;
+    inFront.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&inFront)) << "as a box is when it closes";
+    form->focusField("txtName");
+    EXPECT_EQ(box("txtName")->selectedText(), "Ann");
+}
+
 TEST_F(FormTest, RefreshShowsTheValuesAndWritesNothing) {
     QSignalSpy changed(form, &Form::changed);
     name = "Zoë";

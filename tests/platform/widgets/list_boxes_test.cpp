@@ -8,9 +8,11 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QCalendarWidget>
+#include <QDropEvent>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListView>
+#include <QMimeData>
 #include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -292,6 +294,31 @@ TEST(ListMover, AsksForMovesOnEveryWay) {
     QTest::mouseClick(left->viewport(), Qt::LeftButton, {}, coach);
     QTest::mouseDClick(left->viewport(), Qt::LeftButton, {}, coach);
     EXPECT_EQ(asked, (QStringList{"right Scorer", "right Scorer", "right Scorer", "left Coach"}));
+
+    asked.clear();
+    const QModelIndex scorer = right->model()->index(1, 0);
+    const std::unique_ptr<QMimeData> carried(right->model()->mimeData({scorer}));
+    const QMimeData foreign;
+    const struct {
+        const char* what;
+        QListView* target;
+        const QMimeData* data;
+        bool taken;
+    } drops[]{{"another program's", left, &foreign, false},
+              {"its own", right, carried.get(), false},
+              {"the other list's", left, carried.get(), true}};
+    EXPECT_TRUE(scorer.flags() & Qt::ItemIsDragEnabled);
+    for (const auto& each : drops) {
+        QWidget* target = each.target->viewport();
+        QDragEnterEvent enter({5, 5}, Qt::MoveAction, each.data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(target, &enter);
+        EXPECT_EQ(enter.isAccepted(), each.taken) << each.what;
+        QDropEvent drop(QPointF(5, 5), Qt::MoveAction, each.data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(target, &drop);
+        EXPECT_EQ(drop.isAccepted(), each.taken) << each.what;
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !asked.isEmpty(); }));
+    EXPECT_EQ(asked, QStringList{"right Scorer"});
 
     mover.setEntries(ListMover::Right, {"Manager", "Umpire"});
     EXPECT_EQ(mover.selectedEntry(ListMover::Right), "Umpire") << "the next one is ready to be moved";
