@@ -57,7 +57,8 @@ frmReports::frmReports(Program& program)
       categoryButtons_(new QButtonGroup(this)),
       optionButtons_(new QButtonGroup(this)),
       destinationButtons_(new QButtonGroup(this)),
-      output_(program) {
+      output_(program),
+      labels_(program) {
     auto* content = new QWidget;
     auto* columns = new ColumnRow(content);
     columns->addColumn(makeCategories(), 2);
@@ -119,7 +120,7 @@ QWidget* frmReports::makeOptions() {
     byDivision_->setObjectName("chkByDivision");
     labelOptions_ = new QPushButton(tr("Mailing L&abel Options"));
     labelOptions_->setObjectName("cmdMailingLabelOptions");
-    labelOptions_->setEnabled(false);
+    connect(labelOptions_, &QPushButton::clicked, this, [this] { labels_.choose(optionButtons_->checkedId()); });
     auto* row = new QHBoxLayout;
     row->addWidget(byDivision_, 1);
     row->addWidget(labelOptions_);
@@ -296,7 +297,13 @@ void frmReports::run() {
     const ReportOption& option = *chosen();
     if (!meetsDemands(option) || !option.report) return;
     try {
-        UpdateStatusBar(output_.run(option.report(input()), destinationButtons_->checkedId(), this));
+        ReportInput with = input();
+        if (categoryButtons_->checkedId() == mailingLabels) {
+            const std::optional<LabelOptions> labels = labels_.begin(optionButtons_->checkedId());
+            if (!labels) return;
+            with.labels = *labels;
+        }
+        UpdateStatusBar(output_.run(option.report(with), destinationButtons_->checkedId(), this));
     } catch (const std::exception& failure) {
         program_.dialogs().error(option.caption, QString::fromUtf8(failure.what()));
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/report/Report.h"
+#include "reports/MailingLabels.h"
 #include "reports/ReportOutput.h"
 #include "reports/ReportTable.h"
 #include "shell/MainScreen.h"
@@ -55,4 +56,5 @@ private:
     std::array<ListKind, 3> kinds_{};
     QPushButton* print_ = nullptr;
     ReportOutput output_;
+    MailingLabels labels_;
 };

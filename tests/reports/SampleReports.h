@@ -33,6 +33,10 @@ struct SampleReports {
         return input;
     }
 
+    // One of each who has much to tell.
+    static inline const QString busySponsor = "BUSY";
+    static inline const QString busyVolunteer = "BUSY";
+
     LeagueFile league;
 
 private:
