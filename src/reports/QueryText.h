@@ -19,8 +19,13 @@ public:
     QueryText& whereChosen(const QString& column, std::optional<int> id) {
         return id ? where(column + QLatin1String(" = ?"), {*id}) : *this;
     }
+    /// By columns with ", " between them. Names stand in the order of the program's lists, accented letters beside
+    /// their plain ones.
     report::Query orderBy(const QString& columns) const {
-        return {text_ + QLatin1String(" ORDER BY ") + columns, values_};
+        QStringList order = columns.split(QStringLiteral(", "));
+        for (QString& column : order)
+            if (column.endsWith(QLatin1String("Name"))) column += QLatin1String(" COLLATE Names");
+        return {text_ + QLatin1String(" ORDER BY ") + order.join(QStringLiteral(", ")), values_};
     }
 
 private:

@@ -149,7 +149,8 @@ ReportDefinition RegistrationForm::divisions() {
     list.points = 8;
     list.across = 3;
     list.query.text =
-        "SELECT 1 AS League, DivName, DivMinAge, DivMaxAge FROM tblDivision WHERE DeletedFlag = False ORDER BY DivName";
+        "SELECT 1 AS League, DivName, DivMinAge, DivMaxAge FROM tblDivision WHERE DeletedFlag = False ORDER BY DivName "
+        "COLLATE Names";
     list.columns = {{tr("Division"), column("DivName"), 22},
                     {tr("Ages"), joined({"DivMinAge", "DivMaxAge"}, QStringLiteral(" - ")), 8}};
     return list;

@@ -8,7 +8,7 @@
 #include "platform/report/ReportError.h"
 #include "platform/report/ReportFiller.h"
 #include "platform/report/ReportPreview.h"
-#include "reports/ReportProgress.h"
+#include "platform/report/RunProgress.h"
 #include "reports/StoreRows.h"
 #include "shell/Program.h"
 
@@ -60,8 +60,8 @@ QString ReportOutput::print(const report::Report& report, QWidget* screen) {
     dialog.setObjectName("printDialog");
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     if (program_.dialogs().showModal(dialog) != QDialog::Accepted) return {};
-    ReportProgress progress(report.definition.title, tr("Page %1"), screen);
-    const bool whole = report::print(printer(), report, [&](int page) { return progress.advance(page); });
+    report::RunProgress progress(screen, report.definition.title, report::RunProgress::Counts::Pages);
+    const bool whole = report::print(printer(), report, std::ref(progress));
     return whole ? QString() : tr("The report was cancelled.");
 }
 
@@ -75,10 +75,12 @@ QString ReportOutput::save(const report::Report& report, int destination, QWidge
                                                    .fileName = report.definition.title});
     if (!path) return {};
     try {
-        ReportProgress progress(report.definition.title,
-                                kind->format == report::FileFormat::Pdf ? tr("Page %1") : tr("Row %1"), screen);
-        const bool whole = report::writeFile(*path, report, kind->format, printer().pageLayout().pageSize(),
-                                             [&](int done) { return progress.advance(done); });
+        using report::RunProgress;
+        const bool pages = kind->format == report::FileFormat::Pdf;
+        RunProgress progress(screen, report.definition.title,
+                             pages ? RunProgress::Counts::Pages : RunProgress::Counts::Rows);
+        const bool whole =
+            report::writeFile(*path, report, kind->format, printer().pageLayout().pageSize(), std::ref(progress));
         return whole ? tr("Report saved as %1.").arg(*path) : tr("The report was cancelled.");
     } catch (const report::NoDataError&) {
         program_.dialogs().information(tr("No Data to Report"), tr("No data available for report."));

@@ -175,6 +175,11 @@ private:
     static QueryText teams(const ReportInput& input);
     /// The players of each team of the query with their sizes.
     static LeagueReport uniformsByTeam(const ReportInput& input, const QueryText& teams);
+    /// The sizes of a table, each with the number of active players who wear it. Rows of players and staff count
+    /// whether they are marked as deleted or not.
+    static report::ReportDefinition sizeCounts(const SizeOwners& owners, const QString& caption, const QString& table,
+                                               const QString& sizeText, const QString& playerSize,
+                                               const QString& staffSize = {});
     static report::ReportDefinition shirtCounts(const SizeOwners& owners);
     static report::ReportDefinition pantCounts(const SizeOwners& owners);
     static report::ReportDefinition hatCounts(const SizeOwners& owners);

@@ -21,12 +21,8 @@ SizeOwners wholeLeague() {
             .bound = false};
 }
 
-namespace {
-
-/// The sizes of a table, each with the number of active players who wear it. Rows of players and staff count whether
-/// they are marked as deleted or not.
-ReportDefinition counts(const SizeOwners& owners, const QString& caption, const QString& table, const QString& sizeText,
-                        const QString& playerSize, const QString& staffSize, const QString& quantity) {
+ReportDefinition Reports::sizeCounts(const SizeOwners& owners, const QString& caption, const QString& table,
+                                     const QString& sizeText, const QString& playerSize, const QString& staffSize) {
     QString wearers =
         "SELECT " + owners.player + ", " + playerSize + " AS WornSize FROM tblRegistration WHERE PlayerActive = True";
     if (!staffSize.isEmpty() && !owners.staff.isEmpty())
@@ -40,29 +36,27 @@ ReportDefinition counts(const SizeOwners& owners, const QString& caption, const 
                       sizeText + " = Wearers.WornSize WHERE " + table +
                       "!DeletedFlag = False GROUP BY Owners.OwnerDivision, Owners.OwnerTeam, " + sizeText +
                       " ORDER BY " + sizeText;
-    list.columns = {{caption, column("SizeText"), 16}, {quantity, number("Quantity"), 8, Alignment::Right, Total::Sum}};
-    list.totals = fixed(QString());
+    list.columns = {{caption, column("SizeText"), 16},
+                    {tr("Quantity"), number("Quantity"), 8, Alignment::Right, Total::Sum}};
+    list.totals = fixed(tr("Total:"));
     if (owners.bound) list.boundTo = list.keys = QStringList{"OwnerDivision", "OwnerTeam"};
     return list;
 }
 
-}  // namespace
-
 ReportDefinition Reports::shirtCounts(const SizeOwners& owners) {
-    return counts(owners, tr("Shirt Size"), "tblShirtSize", "ShirtSizeText", "PlayerShirtSize", "VolShirtSize",
-                  tr("Quantity"));
+    return sizeCounts(owners, tr("Shirt Size"), "tblShirtSize", "ShirtSizeText", "PlayerShirtSize", "VolShirtSize");
 }
 
 ReportDefinition Reports::pantCounts(const SizeOwners& owners) {
-    return counts(owners, tr("Pants Size"), "tblPantSize", "PantSizeText", "PlayerPantSize", {}, tr("Quantity"));
+    return sizeCounts(owners, tr("Pants Size"), "tblPantSize", "PantSizeText", "PlayerPantSize");
 }
 
 ReportDefinition Reports::hatCounts(const SizeOwners& owners) {
-    return counts(owners, tr("Hat Size"), "tblHatSize", "HatSizeText", "PlayerHatSize", {}, tr("Quantity"));
+    return sizeCounts(owners, tr("Hat Size"), "tblHatSize", "HatSizeText", "PlayerHatSize");
 }
 
 ReportDefinition Reports::shoeCounts(const SizeOwners& owners) {
-    return counts(owners, tr("Shoe Size"), "tblShoeSize", "ShoeSizeText", "PlayerShoeSize", {}, tr("Quantity"));
+    return sizeCounts(owners, tr("Shoe Size"), "tblShoeSize", "ShoeSizeText", "PlayerShoeSize");
 }
 
 QueryText Reports::teams(const ReportInput& input) {
@@ -85,7 +79,7 @@ LeagueReport Reports::uniformsByTeam(const ReportInput& input, const QueryText& 
         "SELECT PlayerTeamId, PlayerLastName, PlayerFirstName, PlayerBirthDate, PlayerPhoneArea, PlayerPhone, "
         "PlayerJerseyNumber, PlayerShirtSize, PlayerPantSize, PlayerHatSize, PlayerSocksSize, PlayerShoeSize "
         "FROM tblRegistration WHERE PlayerActive = True AND DeletedFlag = False "
-        "ORDER BY PlayerLastName, PlayerFirstName, PlayerBirthDate";
+        "ORDER BY PlayerLastName COLLATE Names, PlayerFirstName COLLATE Names, PlayerBirthDate";
     sizes.boundTo = QStringList{"OwnerTeam"};
     sizes.keys = QStringList{"PlayerTeamId"};
     sizes.columns = {

@@ -22,6 +22,9 @@ public:
     /// Puts up the options of a category and selects the first.
     void showCategory(int category);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     QWidget* makeCategories();
     QWidget* makeOptions();
@@ -29,6 +32,8 @@ private:
     QWidget* makeDestinations();
     QLayout* makeButtons();
     QPushButton* addButton(QLayout* row, const char* name, const QString& text, void (frmReports::*press)());
+
+    static void putTabStop(const QButtonGroup& group);
 
     void showOption();
     void showDestination();
@@ -42,6 +47,7 @@ private:
     bool meetsDemands(const ReportOption& option);
     ReportInput input();
     std::optional<int> chosenDivision();
+    datafile::Database database();
     void run();
 
     std::vector<ReportCategory> categories_;
@@ -54,6 +60,7 @@ private:
     std::array<ChoiceBox*, 3> lists_{};
     std::array<QLabel*, 3> listLabels_{};
     std::array<ListKind, 3> kinds_{};
+    qint64 seenChanges_ = 0;  ///< the data file's count of changes when the lists were read
     QPushButton* print_ = nullptr;
     ReportOutput output_;
     MailingLabels labels_;

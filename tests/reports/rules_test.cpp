@@ -225,10 +225,11 @@ TEST_F(ReportRules, UniformsAreCountedAsTheSupplierIsToBeAsked) {
     run("INSERT INTO tblTeamVolunteer (TeamId, DivisionId, VolPosName, DeletedFlag, VolId, VolShirtSize) "
         "VALUES (2, 1, 'TeamParent', True, 8, 'Large')");
     EXPECT_EQ(filled(Reports::rptUniformReport2, input()),
-              QStringList({"#Division: Minors", "#Team: Bears", "Large|1|Large|0||", "Small|2|Small|2||", "=|3||2||",
-                           "#Team: Cubs", "Large|3|Large|1||", "Small|0|Small|0||", "=|3||1||"}))
+              QStringList({"#Division: Minors", "#Team: Bears", "Large|1|Large|0||", "Small|2|Small|2||",
+                           "=Total:|3|Total:|2||", "#Team: Cubs", "Large|3|Large|1||", "Small|0|Small|0||",
+                           "=Total:|3|Total:|1||"}))
         << "shirts of players and staff, pants of players alone";
-    const QStringList league_{"Large|2|Large|2", "Small|2|Small|2", "=|4||4"};
+    const QStringList league_{"Large|2|Large|2", "Small|2|Small|2", "=Total:|4|Total:|4"};
     EXPECT_EQ(filled(Reports::rptUniformReport4, input()), league_);
     EXPECT_EQ(filled(Reports::rptUniformReport5, input()), QStringList("#Division: Minors") + league_);
 }

@@ -7,7 +7,6 @@
 #include <QTemporaryDir>
 
 #include "platform/report/ReportFiller.h"
-#include "reports/ReportProgress.h"
 #include "reports/Reports.h"
 #include "reports/StoreRows.h"
 #include "reports/frmReports.h"
@@ -374,15 +373,6 @@ TEST_F(ReportsTest, ReportThatChecksItselfOpensNoEmptyPreview) {
         press(screen, "cmdPrint");
         dialogs.verify();
     }
-}
-
-TEST_F(ReportsTest, LongRunShowsItsPageAndCanBeCancelled) {
-    ReportProgress progress("Player Report", "Page %1", nullptr, 0);
-    EXPECT_TRUE(progress.advance(1));
-    ASSERT_TRUE(progress.isVisible());
-    EXPECT_EQ(progress.labelText(), "Page 1");
-    QTest::keyClick(&progress, Qt::Key_Escape);
-    EXPECT_FALSE(progress.advance(2));
 }
 
 TEST_F(ReportsTest, WritesAPdfFile) {

@@ -6,6 +6,8 @@
 #include <QListView>
 #include <QRadioButton>
 
+#include "tour/Chapters.h"
+
 namespace {
 
 /// A stop of the Tab key on the player form; an empty text leaves what stands there.
@@ -76,6 +78,7 @@ Tour::Tour(ProgramParts& parts, Guide& guide, QString pdf) : parts_(parts), guid
 
 void Tour::take() {
     start();
+    visitReports(guide_);
     openRegistration();
     renameOrganization();
     addDivision();
@@ -259,6 +262,7 @@ void Tour::previewList() {
     guide_.click("optReportSelection12");
     guide_.require(guide_.control<QRadioButton>("optReportSelection12").isChecked(),
                    "The choice of the league's lists");
+    guide_.click("optReportOptions2");
     guide_.picture("reports");
     guide_.during([this] { guide_.click("cmdPrint"); }, "The preview",
                   [this] {
