@@ -196,7 +196,8 @@ private:
 
     /// Live teams of live divisions, with TeamSponsor and, where there is one, the name of the HeadCoach.
     static QueryText teamRecords(const ReportInput& input);
-    static report::Group eachTeam();
+    /// As byTeam, for rows with a TeamId: two teams of a division may have one name.
+    static report::Group byTeamId();
     static report::Field teamSponsor();
     /// The position of a member of a team's staff, as people call it.
     static report::Field staffPosition();

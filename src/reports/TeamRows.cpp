@@ -20,9 +20,9 @@ QueryText Reports::teamRecords(const ReportInput& input) {
         .whereChosen("tblTeam!TeamId", input.teamId);
 }
 
-Group Reports::eachTeam() {
+Group Reports::byTeamId() {
     Group team = byTeam();
-    team.key = "TeamId";  // two teams of a division may have one name
+    team.key = "TeamId";
     return team;
 }
 

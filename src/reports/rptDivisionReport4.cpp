@@ -8,7 +8,7 @@ LeagueReport Reports::rptDivisionReport4(const ReportInput& input) {
     list.groups = {byDivision()};
     QueryText chosen = games();
     list.query = input.divisionId ? chosen.where("division = ?", {input.lists[1]}).orderBy("[Date], [Time], [Field]")
-                                  : chosen.orderBy("DivName, [Date], [Time], [Field]");
+                                  : chosen.orderBy("division COLLATE Names, [Date], [Time], [Field]");
     list.columns = gameColumns({gameField()});
     return list;
 }

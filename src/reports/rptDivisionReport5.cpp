@@ -4,7 +4,7 @@ using namespace report;
 
 LeagueReport Reports::rptDivisionReport5(const ReportInput& input) {
     ReportDefinition list = headed(input, tr("Team Coach/Team Parent Report"));
-    list.groups = {byDivision(), eachTeam()};
+    list.groups = {byDivision(), byTeamId()};
     list.query =
         QueryText(
             "SELECT DivName, TeamName, tblTeamVolunteer!TeamId AS TeamId, VolPosName, VolLastName, VolFirstName, "

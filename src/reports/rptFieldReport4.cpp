@@ -7,7 +7,7 @@ LeagueReport Reports::rptFieldReport4(const ReportInput& input) {
     list.groups = {byField("Field")};
     QueryText chosen = games();
     if (!meansAll(input.lists[0], ListKind::Fields)) chosen.where("[Field] = ?", {input.lists[0]});
-    list.query = chosen.orderBy("[Field], [Date], [Time]");
+    list.query = chosen.orderBy("[Field] COLLATE Names, [Date], [Time]");
     list.columns = gameColumns({gameDivision()});
     return list;
 }

@@ -25,7 +25,7 @@ ReportDefinition rptTeamReport1Sub1(Line columns, const QString& count, const QS
 
 LeagueReport Reports::rptTeamReport1(const ReportInput& input) {
     ReportDefinition report = headed(input, tr("Team Report by Division"));
-    report.groups = {byDivision(), eachTeam()};
+    report.groups = {byDivision(), byTeamId()};
     const auto left = [](const QString& caption, const Field& field) {
         return Column{.caption = caption, .field = field, .alignment = Alignment::Left};
     };

@@ -23,7 +23,7 @@ ReportDefinition rptTeamReport4Sub1(Line columns, const QString& whenEmpty) {
 
 LeagueReport Reports::rptTeamReport4(const ReportInput& input) {
     ReportDefinition report = headed(input, tr("Team Schedule"));
-    report.groups = {byDivision(), eachTeam()};
+    report.groups = {byDivision(), byTeamId()};
     report.groups[1].lines = {
         Line{{tr("Head Coach:"), column("HeadCoach")}, {tr("Sponsor:"), teamSponsor()}, {.share = 5}}};
     report.query = teamRecords(input).orderBy("DivName, TeamName, tblTeam!TeamId");

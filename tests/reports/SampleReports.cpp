@@ -51,7 +51,7 @@ const std::vector<SampleReport>& sampleReports() {
         {"rptVolunteerReport3", Reports::rptVolunteerReport3, {"", "T-Ball", "All Teams"}},
         {"rptVolunteerReport4", Reports::rptVolunteerReport4},
         {"rptVolunteerReport5", Reports::rptVolunteerReport5, {"Umpire"}},
-        {"rptAbilityRating1", Reports::rptAbilityRating1, {"All Players"}},
+        {"rptAbilityRating1", Reports::rptAbilityRating1, {"De Vries, Aubrey - 2/24/2010"}},
         {"rptAbilityRating2", Reports::rptAbilityRating2, {SampleReports::busyVolunteer}},
         {"rptAbilityReport3", Reports::rptAbilityReport3, {"", "Minors Baseball"}},
         {"rptAbilityReport4", Reports::rptAbilityReport4, {"", "Minors Baseball", "All Teams"}},

@@ -34,8 +34,8 @@ struct SampleReports {
     }
 
     // One of each who has much to tell.
-    static inline const QString busySponsor = "BUSY";
-    static inline const QString busyVolunteer = "BUSY";
+    static inline const QString busySponsor = "Canyon Auto Body";
+    static inline const QString busyVolunteer = "Yang, Greg - 580-9052";
 
     LeagueFile league;
 

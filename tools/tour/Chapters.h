@@ -6,3 +6,4 @@
 
 /// A registration form, a roster and the balance report in their previews.
 void visitReports(Guide& guide);
+void visitLabels(Guide& guide);

@@ -79,6 +79,7 @@ Tour::Tour(ProgramParts& parts, Guide& guide, QString pdf) : parts_(parts), guid
 void Tour::take() {
     start();
     visitReports(guide_);
+    visitLabels(guide_);
     openRegistration();
     renameOrganization();
     addDivision();
