@@ -10,15 +10,13 @@ QueryText Reports::games() {
 
 Line Reports::gameColumns(std::initializer_list<Column> more) {
     Line columns{
-        {tr("Date"), date("Date"), 10, Alignment::Right},
-        {tr("Day"), column("Day"), 10},
-        {tr("Time"), time("Time"), 10, Alignment::Right},
-        {tr("Visitors"), column("VisitorsTeam"), 22},
-        {tr("Home"), column("HomeTeam"), 22},
+        {tr("Date"), date("Date"), 9},        {tr("Day"), column("Day"), 9.5},
+        {tr("Time"), time("Time"), 8},        {tr("Visitors"), column("VisitorsTeam"), 20},
+        {tr("Home"), column("HomeTeam"), 20},
     };
     columns.insert(columns.end(), more);
     return columns;
 }
 
 Column Reports::gameDivision() { return {tr("Division"), column("DivName"), 20}; }
-Column Reports::gameField() { return {tr("Field"), column("Field"), 22}; }
+Column Reports::gameField() { return {tr("Field"), column("Field"), 24}; }

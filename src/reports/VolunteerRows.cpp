@@ -9,7 +9,7 @@ ReportDefinition part(const QString& title, double share, const QueryText& query
     ReportDefinition list;
     list.title = title;
     list.share = share;
-    list.points = 8;
+    list.points = 7.5;
     list.query = query.orderBy("VolId, " + order);
     list.columns = columns;
     list.boundTo = list.keys = QStringList{"VolId"};
@@ -73,7 +73,7 @@ ReportDefinition Reports::volunteerRecord(const ReportInput& input, const QStrin
 }
 
 ReportDefinition Reports::rptVolunteerPlayer() {
-    return part(tr("Players"), 27,
+    return part(tr("Players"), 25,
                 QueryText("SELECT DISTINCT VolId, PlayerLastName, PlayerFirstName, PlayerBirthDate "
                           "FROM tblRegistrationVolunteer INNER JOIN tblRegistration "
                           "ON tblRegistrationVolunteer!PlayerId = tblRegistration!PlayerId "
@@ -85,7 +85,7 @@ ReportDefinition Reports::rptVolunteerPlayer() {
 }
 
 ReportDefinition Reports::rptVolunteerPositions() {
-    return part(tr("Positions"), 18,
+    return part(tr("Positions"), 14,
                 QueryText("SELECT DISTINCT VolId, VolPosName FROM tblVolToPosition INNER JOIN tblVolunteerPositions "
                           "ON tblVolToPosition!VolPosId = tblVolunteerPositions!VolPosId "
                           "AND tblVolunteerPositions!DeletedFlag = False")
@@ -103,18 +103,18 @@ ReportDefinition Reports::rptVolunteerAssignments() {
             .where("tblTeamVolunteer!DeletedFlag = False"),
         "DivName, TeamName, VolPosName",
         {{.field = staffPosition(), .share = 11},
-         {.field = column("DivName").orElse(tr("Unknown Division")), .share = 10},
-         {.field = column("TeamName").orElse(tr("Unknown Team")), .share = 10}});
+         {.field = column("DivName").orElse(tr("Unknown Division")), .share = 13},
+         {.field = column("TeamName").orElse(tr("Unknown Team")), .share = 11}});
 }
 
 ReportDefinition Reports::rptVolunteerCertifications() {
-    return part(tr("Certifications"), 27,
+    return part(tr("Certifications"), 34,
                 QueryText("SELECT VolId, CertifyingOrganization, CertificationName FROM tblVolunteerCertifications "
                           "INNER JOIN tblCertifications "
                           "ON tblVolunteerCertifications!CertificationId = tblCertifications!CertificationId "
                           "AND tblCertifications!DeletedFlag = False")
                     .where("tblVolunteerCertifications!DeletedFlag = False"),
                 "CertifyingOrganization, CertificationName",
-                {{.field = column("CertifyingOrganization"), .share = 13},
+                {{.field = column("CertifyingOrganization"), .share = 15},
                  {.field = column("CertificationName"), .share = 13}});
 }

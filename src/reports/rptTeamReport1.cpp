@@ -26,12 +26,12 @@ ReportDefinition rptTeamReport1Sub1(Line columns, const QString& count, const QS
 LeagueReport Reports::rptTeamReport1(const ReportInput& input) {
     ReportDefinition report = headed(input, tr("Team Report by Division"));
     report.groups = {byDivision(), byTeamId()};
-    const auto left = [](const QString& caption, const Field& field) {
-        return Column{.caption = caption, .field = field, .alignment = Alignment::Left};
+    const auto left = [](const QString& caption, const Field& field, double share = 10) {
+        return Column{.caption = caption, .field = field, .share = share, .alignment = Alignment::Left};
     };
     report.groups[1].lines = {
-        Line{left(tr("League Team Name:"), column("TeamLeagueName")), left(tr("Head Coach:"), column("HeadCoach")),
-             left(tr("Sponsor:"), teamSponsor())},
+        Line{left(tr("League Team Name:"), column("TeamLeagueName"), 13),
+             left(tr("Head Coach:"), column("HeadCoach"), 9), left(tr("Sponsor:"), teamSponsor(), 13)},
         Line{left(tr("Gender:"), column("TeamGender")), left(tr("Colors:"), column("TeamColors")),
              left(tr("Team Fee:"), money("TeamFeeAmount")), left(tr("Fee Paid:"), money("TeamFeePaid"))},
         Line{left(tr("Shirt:"), column("TeamShirtColor")), left(tr("Pants:"), column("TeamPantsColor")),
@@ -45,7 +45,7 @@ LeagueReport Reports::rptTeamReport1(const ReportInput& input) {
             {tr("Player Name"), lastFirst("PlayerLastName", "PlayerFirstName"), 34, {}, Total::Count},
             {tr("Phone"), phone("PlayerPhoneArea", "PlayerPhone"), 18},
             {tr("Zip/Postal"), column("PlayerPostalCode"), 18},
-            {tr("Birth Date"), date("PlayerBirthDate"), 14, Alignment::Right},
+            {tr("Birth Date"), date("PlayerBirthDate"), 14},
             {tr("Gender"), column("PlayerGender"), 12},
         },
         tr("Players:"), tr("No players are assigned to this team."))};
