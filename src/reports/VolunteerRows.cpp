@@ -73,7 +73,7 @@ ReportDefinition Reports::volunteerRecord(const ReportInput& input, const QStrin
 }
 
 ReportDefinition Reports::rptVolunteerPlayer() {
-    return part(tr("Players"), 25,
+    return part(tr("Players"), 24,
                 QueryText("SELECT DISTINCT VolId, PlayerLastName, PlayerFirstName, PlayerBirthDate "
                           "FROM tblRegistrationVolunteer INNER JOIN tblRegistration "
                           "ON tblRegistrationVolunteer!PlayerId = tblRegistration!PlayerId "
@@ -85,7 +85,7 @@ ReportDefinition Reports::rptVolunteerPlayer() {
 }
 
 ReportDefinition Reports::rptVolunteerPositions() {
-    return part(tr("Positions"), 14,
+    return part(tr("Positions"), 13,
                 QueryText("SELECT DISTINCT VolId, VolPosName FROM tblVolToPosition INNER JOIN tblVolunteerPositions "
                           "ON tblVolToPosition!VolPosId = tblVolunteerPositions!VolPosId "
                           "AND tblVolunteerPositions!DeletedFlag = False")
@@ -104,11 +104,11 @@ ReportDefinition Reports::rptVolunteerAssignments() {
         "DivName, TeamName, VolPosName",
         {{.field = staffPosition(), .share = 11},
          {.field = column("DivName").orElse(tr("Unknown Division")), .share = 13},
-         {.field = column("TeamName").orElse(tr("Unknown Team")), .share = 11}});
+         {.field = column("TeamName").orElse(tr("Unknown Team")), .share = 13}});
 }
 
 ReportDefinition Reports::rptVolunteerCertifications() {
-    return part(tr("Certifications"), 34,
+    return part(tr("Certifications"), 32,
                 QueryText("SELECT VolId, CertifyingOrganization, CertificationName FROM tblVolunteerCertifications "
                           "INNER JOIN tblCertifications "
                           "ON tblVolunteerCertifications!CertificationId = tblCertifications!CertificationId "

@@ -43,8 +43,7 @@ protected:
 TEST_F(LeagueReports, StandingsRankEachDivisionByItself) {
     add("tblResults (DivisionId, HomeTeamId, VisitorTeamId, HomeTeamScore, VisitorTeamScore)",
         {"1, 1, 2, 5, 3", "1, 2, 1, 4, 4", "2, 3, 4, 1, 2"});
-    const QStringList majors{"#Division: Majors", "1|Tigers|Closed|1|0|0|100.000",
-                             "2|Lions|Bakery|0|1|0|0.000"};
+    const QStringList majors{"#Division: Majors", "1|Tigers|Closed|1|0|0|100.000", "2|Lions|Bakery|0|1|0|0.000"};
     EXPECT_EQ(filled(Reports::rptDivisionReport3, input({"", "Majors"}, 2)), majors);
     EXPECT_EQ(filled(Reports::rptDivisionReport3, input()),
               majors + QStringList({"#Division: Minors", "1|Bears|Bakery|1|0|1|50.000",
