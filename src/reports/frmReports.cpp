@@ -27,6 +27,7 @@ frmReports::frmReports(Program& program)
       categoryButtons_(new QButtonGroup(this)),
       optionButtons_(new QButtonGroup(this)),
       destinationButtons_(new QButtonGroup(this)),
+      database_(program.store.workspace.openDatabase(program.store.dataFilePath)),
       output_(program),
       labels_(program) {
     auto* content = new QWidget;
@@ -102,10 +103,8 @@ void frmReports::showOption() {
 void frmReports::changeEvent(QEvent* event) {
     MainScreen::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !print_) return;
-    if (database().changes() != seenChanges_) showLists();
+    if (database_.changes() != seenChanges_) showLists();
 }
-
-datafile::Database frmReports::database() { return program_.store.workspace.openDatabase(program_.store.dataFilePath); }
 
 /// Puts up the lists that the option uses. What is chosen stays chosen where the list still offers it.
 void frmReports::showLists() {
@@ -115,7 +114,7 @@ void frmReports::showLists() {
     fillList(0, used ? option->list : ListKind::None);
     fillList(divisions, scope == Scope::League ? ListKind::None : ListKind::Divisions);
     fillTeams();
-    seenChanges_ = database().changes();
+    seenChanges_ = database_.changes();
     if (!used || !option->mayNarrow) return;
     const bool byCategory = option->list == ListKind::Categories;
     listLabels_[byCategory ? 0 : divisions]->setText(byCategory ? tr("Select by Category") : tr("Select by Division"));

@@ -47,7 +47,6 @@ private:
     bool meetsDemands(const ReportOption& option);
     ReportInput input();
     std::optional<int> chosenDivision();
-    datafile::Database database();
     void run();
 
     std::vector<ReportCategory> categories_;
@@ -60,7 +59,8 @@ private:
     std::array<ChoiceBox*, 3> lists_{};
     std::array<QLabel*, 3> listLabels_{};
     std::array<ListKind, 3> kinds_{};
-    qint64 seenChanges_ = 0;  ///< the data file's count of changes when the lists were read
+    datafile::Database database_;  ///< held, so that its count of changes goes on
+    qint64 seenChanges_ = 0;       ///< the data file's count of changes when the lists were read
     QPushButton* print_ = nullptr;
     ReportOutput output_;
     MailingLabels labels_;

@@ -8,6 +8,7 @@ ReportDefinition Reports::brackenValeForm(const ReportInput& input) {
     using Form = RegistrationForm;
     ReportDefinition form = headed(input, tr("Registration Form"));
     form.typeface = Typeface::Form;
+    form.points = 8.5;  // its frames take room
     const auto framed = [](Form::Lines lines) {
         for (Line& line : lines)
             if (line.frame == Line::Frame::None) line = line.boxed();

@@ -61,6 +61,10 @@ protected:
         for (int entry = 0; entry < list(index)->count(); ++entry) texts << list(index)->itemText(entry);
         return texts;
     }
+    void pick(int index, const QString& entry) {
+        list(index)->setCurrentIndex(list(index)->findText(entry));
+        Q_EMIT list(index)->activated(list(index)->currentIndex());
+    }
     void chooseDestination(int index) { button("optReportDestination", index)->click(); }
     Captions shown(const char* name, int count) {
         Captions captions;
@@ -324,10 +328,6 @@ TEST_F(ReportsTest, ListsOfferTheLiveRowsOfWhatTheOptionIsAbout) {
         EXPECT_EQ(list(each.list)->isEnabled(), !each.entries.empty());
     }
     choose(4, 2);
-    const auto pick = [&](int index, const QString& entry) {
-        list(index)->setCurrentIndex(list(index)->findText(entry));
-        Q_EMIT list(index)->activated(list(index)->currentIndex());
-    };
     pick(2, "Minors");
     EXPECT_EQ(entries(3), QStringList({"All Teams", "Bears", "Tigers"}));
     EXPECT_EQ(list(3)->currentText(), "All Teams");
@@ -346,6 +346,53 @@ TEST_F(ReportsTest, ListsOfferTheLiveRowsOfWhatTheOptionIsAbout) {
     button("optReportOptions", 1)->click();
     EXPECT_EQ(label(1), "Select by Category");
     EXPECT_EQ(entries(1), QStringList({"All Volunteer Categories", "Coach"}));
+}
+
+TEST_F(ReportsTest, ListsFollowWhatOtherScreensChange) {
+    open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(screen));
+    addPlayer("PlayerLastName, PlayerFirstName", R"("Adams", "Cy")");
+    addPlayer("PlayerLastName, PlayerFirstName", R"("Young", "Zoe")");
+    QEvent comesBack(QEvent::ActivationChange);
+    QApplication::sendEvent(screen, &comesBack);
+    pick(1, "Young, Zoe - 4/2/2012");
+    addPlayer("PlayerLastName, PlayerFirstName", R"("Baker", "Di")");
+    QApplication::sendEvent(screen, &comesBack);
+    EXPECT_EQ(list(1)->count(), 4);
+    EXPECT_EQ(list(1)->currentText(), "Young, Zoe - 4/2/2012");
+}
+
+TEST_F(ReportsTest, ReportIsAboutTheDivisionAndTeamChosen) {
+    const datafile::Database database = running.league.database();
+    database.execute("DELETE FROM tblDivision");
+    for (const char* division : {"1, 'Minors'", "2, 'Majors'"})
+        database.execute(QString("INSERT INTO tblDivision (DivisionId, DivName) VALUES (%1)").arg(division));
+    for (const char* team : {"1, 1, 'Bears'", "2, 2, 'Bears'", "3, 2, 'Lions'"})
+        database.execute(QString("INSERT INTO tblTeam (TeamId, DivisionId, TeamName) VALUES (%1)").arg(team));
+    for (const char* player : {"'Minor', 'A', 1, 1", "'Major', 'B', 2, 2", "'Lion', 'C', 2, 3"})
+        addPlayer("PlayerLastName, PlayerFirstName, PlayerDivisionId, PlayerTeamId", player);
+    const struct {
+        QString division, team;
+        QStringList players;
+    } cases[] = {
+        {"All Divisions", "All Teams", {"Major, B", "Lion, C", "Minor, A"}},
+        {"Majors", "All Teams", {"Major, B", "Lion, C"}},
+        {"Majors", "Bears", {"Major, B"}},
+        {"Minors", "Bears", {"Minor, A"}},
+    };
+    open();
+    choose(4, 2);
+    chooseDestination(3);
+    for (const auto& each : cases) {
+        pick(2, each.division);
+        pick(3, each.team);
+        dialogs.expectSaveFile("Save Report", path());
+        press(screen, "cmdPrint");
+        const QString text = textOfPdf(path());
+        for (const QString player : {"Major, B", "Lion, C", "Minor, A"})
+            EXPECT_EQ(text.contains(player), each.players.contains(player))
+                << player.toStdString() << " of " << each.division.toStdString() << ' ' << each.team.toStdString();
+    }
 }
 
 TEST_F(ReportsTest, UnknownCategoryIsTold) {
