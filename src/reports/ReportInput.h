@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 
+#include "reports/LabelOptions.h"
 #include "store/Globals.h"
 
 /// What a report is made for: what was chosen on the selection screen, the league's preferences, and the day.
@@ -14,4 +15,5 @@ struct ReportInput {
     bool byDivision = false;
     Globals globals{};
     QDate today{};
+    LabelOptions labels{};
 };

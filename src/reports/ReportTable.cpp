@@ -47,39 +47,39 @@ ReportCategory Reports::volunteerReports() {
     const QString volunteer = mustSelect(tr("You must select a Volunteer from the list before"));
     const QString category = mustSelectBefore(tr("You must select a Volunteer Category from the list"));
     return {tr("Volunteer"),
-            {{tr("Single Volunteer"), nullptr, ListKind::Volunteers, Scope::League, demand({1}, volunteer)},
-             {tr("By Division"), nullptr, ListKind::None, Scope::Division},
-             {tr("By Division/Team"), nullptr, ListKind::None, Scope::Team},
-             {tr("By Category"), nullptr, ListKind::Categories, Scope::League, demand({1}, category)}}};
+            {{tr("Single Volunteer"), rptVolunteerReport1, ListKind::Volunteers, Scope::League, demand({1}, volunteer)},
+             {tr("By Division"), rptVolunteerReport2, ListKind::None, Scope::Division},
+             {tr("By Division/Team"), rptVolunteerReport3, ListKind::None, Scope::Team},
+             {tr("By Category"), rptVolunteerReport5, ListKind::Categories, Scope::League, demand({1}, category)}}};
 }
 
 ReportCategory Reports::sponsorReports() {
     const QString sponsor = mustSelect(tr("You must select a Sponsor from the list before"));
     return {tr("Sponsor"),
-            {{tr("Single Sponsor"), nullptr, ListKind::Sponsors, Scope::League, demand({1}, sponsor)},
-             {tr("By Division"), nullptr, ListKind::None, Scope::Division},
-             {tr("By Division/Team"), nullptr, ListKind::None, Scope::Team},
-             {tr("Unassigned Sponsors"), nullptr},
-             {tr("Sponsor List"), nullptr}}};
+            {{tr("Single Sponsor"), rptSponsorReport1, ListKind::Sponsors, Scope::League, demand({1}, sponsor)},
+             {tr("By Division"), rptSponsorReport2, ListKind::None, Scope::Division},
+             {tr("By Division/Team"), rptSponsorReport3, ListKind::None, Scope::Team},
+             {tr("Unassigned Sponsors"), rptSponsorReport4},
+             {tr("Sponsor List"), rptSponsorReport5}}};
 }
 
 ReportCategory Reports::divisionReports() {
     const QString any = mustSelect(tr("You must select a Division name or All Divisions"));
     const QString division = mustSelect(tr("You must select a Division from the list before"));
     return {tr("Division"),
-            {{tr("Division Info."), nullptr, ListKind::None, Scope::Division},
-             {tr("Team Info by Division"), nullptr, ListKind::None, Scope::Division},
-             {tr("Division Standings"), nullptr, ListKind::None, Scope::Division, demand({2}, any)},
-             {tr("Division Schedule"), nullptr, ListKind::None, Scope::Division, demand({2}, division)},
-             {tr("Coach/Team Parent List"), nullptr, ListKind::None, Scope::Team}}};
+            {{tr("Division Info."), rptDivisionReport1, ListKind::None, Scope::Division},
+             {tr("Team Info by Division"), rptDivisionReport2, ListKind::None, Scope::Division},
+             {tr("Division Standings"), rptDivisionReport3, ListKind::None, Scope::Division, demand({2}, any)},
+             {tr("Division Schedule"), rptDivisionReport4, ListKind::None, Scope::Division, demand({2}, division)},
+             {tr("Coach/Team Parent List"), rptDivisionReport5, ListKind::None, Scope::Team}}};
 }
 
 ReportCategory Reports::teamReports() {
     return {tr("Team"),
-            {{tr("Division/Team Info"), nullptr, ListKind::None, Scope::Team},
-             {tr("Team/Sponsor Info"), nullptr, ListKind::None, Scope::Team},
+            {{tr("Division/Team Info"), rptTeamReport1, ListKind::None, Scope::Team},
+             {tr("Team/Sponsor Info"), rptSponsorReport3, ListKind::None, Scope::Team},
              {tr("Team Rosters"), rptPlayerReport3, ListKind::None, Scope::Team},
-             {tr("Team Schedule"), nullptr, ListKind::None, Scope::Team},
+             {tr("Team Schedule"), rptTeamReport4, ListKind::None, Scope::Team},
              {tr("Fee Report by Division/Team"), rptFeeReport2, ListKind::None, Scope::Team},
              {tr("Team Medical Report"), rptTeamMedical, ListKind::None, Scope::Team},
              {tr("Team Roster Sorted by Age"), rptPlayerReport3ByAge, ListKind::None, Scope::Team}}};
@@ -90,38 +90,39 @@ ReportCategory Reports::fieldReports() {
     const QString division = mustSelect(tr("You must select a Division Name from the list before"));
     const QString field = mustSelect(tr("You must select a Field from the list before"));
     return {tr("Fields"),
-            {{tr("Single Field Report"), nullptr, ListKind::Fields, Scope::League, demand({1}, name)},
-             {tr("All Fields Report"), nullptr},
-             {tr("Field/Team Assignment"), nullptr, ListKind::None, Scope::Division, demand({2}, division)},
-             {tr("Field Schedule"), nullptr, ListKind::Fields, Scope::League, demand({1}, field)}}};
+            {{tr("Single Field Report"), rptFieldReport1, ListKind::Fields, Scope::League, demand({1}, name)},
+             {tr("All Fields Report"), rptFieldReport1},
+             {tr("Field/Team Assignment"), rptFieldReport3, ListKind::None, Scope::Division, demand({2}, division)},
+             {tr("Field Schedule"), rptFieldReport4, ListKind::Fields, Scope::League, demand({1}, field)}}};
 }
 
 ReportCategory Reports::ratingReports() {
     const QString player = mustSelect(tr("You must select a Player from the list before"));
     const QString volunteer = mustSelect(tr("You must select a Volunteer from the list before"));
     const QString team = mustSelect(tr("You must select a Team option before"));
-    return {tr("Ability Ratings"),
-            {{tr("Player Rating"), nullptr, ListKind::RatedPlayers, Scope::League, demand({1}, player)},
-             {tr("Volunteer Rating"), nullptr, ListKind::RatedVolunteers, Scope::League, demand({1}, volunteer)},
-             {tr("Player By Division"), nullptr, ListKind::None, Scope::Division},
-             {tr("Player By Division/Team"), nullptr, ListKind::None, Scope::Team, demand({3}, team)}}};
+    return {
+        tr("Ability Ratings"),
+        {{tr("Player Rating"), rptAbilityRating1, ListKind::RatedPlayers, Scope::League, demand({1}, player)},
+         {tr("Volunteer Rating"), rptAbilityRating2, ListKind::RatedVolunteers, Scope::League, demand({1}, volunteer)},
+         {tr("Player By Division"), rptAbilityReport5, ListKind::None, Scope::Division},
+         {tr("Player By Division/Team"), rptAbilityReport4, ListKind::None, Scope::Team, demand({3}, team)}}};
 }
 
 ReportCategory Reports::mailingLabels() {
     constexpr bool mayNarrow = true;
     return {tr("Mailing Labels"),
-            {{tr("All Players"), nullptr, ListKind::None, Scope::Division, {}, mayNarrow},
-             {tr("All Volunteers"), nullptr, ListKind::Categories, Scope::League, {}, mayNarrow},
-             {tr("All Sponsors"), nullptr, ListKind::None, Scope::Division, {}, mayNarrow}}};
+            {{tr("All Players"), rptLabelFormat1, ListKind::None, Scope::Division, {}, mayNarrow},
+             {tr("All Volunteers"), rptLabelFormat2, ListKind::Categories, Scope::League, {}, mayNarrow},
+             {tr("All Sponsors"), rptLabelFormat3, ListKind::None, Scope::Division, {}, mayNarrow}}};
 }
 
 ReportCategory Reports::scheduleReports() {
     const QString field = mustSelect(tr("You must select a Field from the list before"));
     return {tr("Schedules"),
-            {{tr("Master Schedule"), nullptr},
-             {tr("Division Schedule"), nullptr, ListKind::None, Scope::Division},
-             {tr("Team Schedule"), nullptr, ListKind::None, Scope::Team},
-             {tr("Field Schedule"), nullptr, ListKind::Fields, Scope::League, demand({1}, field)}}};
+            {{tr("Master Schedule"), rptMasterSchedule},
+             {tr("Division Schedule"), rptDivisionReport4, ListKind::None, Scope::Division},
+             {tr("Team Schedule"), rptTeamReport4, ListKind::None, Scope::Team},
+             {tr("Field Schedule"), rptFieldReport4, ListKind::Fields, Scope::League, demand({1}, field)}}};
 }
 
 ReportCategory Reports::uniformReports() {
@@ -138,7 +139,7 @@ ReportCategory Reports::leagueReports() {
     const QString division = mustSelectBefore(tr("You must select a Division option"));
     return {
         tr("League Reports and Forms"),
-        {{tr("Registration Count"), nullptr},
+        {{tr("Registration Count"), rptSummaryReport1},
          {tr("Fee Summary"), rptSummaryReport2},
          {tr("Active Player List"), rptPlayerReport7},
          {tr("Inactive Player List"), rptPlayerReport8},

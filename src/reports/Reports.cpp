@@ -33,3 +33,15 @@ Group Reports::byTeam(const QString& footer) {
     return group("TeamName", column("TeamName").before(tr("Team:") + u' ').orElse(tr("Not Assigned to a Team")),
                  footer);
 }
+
+Group Reports::byField(const QString& key) {
+    return group(key, column(key).before(tr("Field:") + u' ').orElse(tr("Not Assigned to a Field")), {});
+}
+
+NoData Reports::noRecords() {
+    return {tr("No Data to Report"), tr("No Records available to") + u'\n' + tr("display on the report.")};
+}
+
+bool Reports::meansAll(const QString& entry, ListKind kind) {
+    return entry.isEmpty() || entry == ReportLists::allEntry(kind);
+}

@@ -51,6 +51,44 @@ public:
     static LeagueReport rptUniformReport4(const ReportInput& input);
     static LeagueReport rptUniformReport5(const ReportInput& input);
 
+    // Divisions, teams, schedules and fields.
+    static LeagueReport rptDivisionReport1(const ReportInput& input);
+    static LeagueReport rptDivisionReport2(const ReportInput& input);
+    static LeagueReport rptDivisionReport3(const ReportInput& input);
+    static LeagueReport rptDivisionReport4(const ReportInput& input);
+    static LeagueReport rptDivisionReport5(const ReportInput& input);
+    static LeagueReport rptTeamReport1(const ReportInput& input);
+    static LeagueReport rptTeamReport4(const ReportInput& input);
+    static LeagueReport rptMasterSchedule(const ReportInput& input);
+    static LeagueReport rptFieldReport1(const ReportInput& input);
+    static LeagueReport rptFieldReport3(const ReportInput& input);
+    static LeagueReport rptFieldReport4(const ReportInput& input);
+    static LeagueReport rptSummaryReport1(const ReportInput& input);
+
+    // Sponsors and volunteers.
+    static LeagueReport rptSponsorReport1(const ReportInput& input);
+    static LeagueReport rptSponsorReport2(const ReportInput& input);
+    static LeagueReport rptSponsorReport3(const ReportInput& input);
+    static LeagueReport rptSponsorReport4(const ReportInput& input);
+    static LeagueReport rptSponsorReport5(const ReportInput& input);
+    static LeagueReport rptVolunteerReport1(const ReportInput& input);
+    static LeagueReport rptVolunteerReport2(const ReportInput& input);
+    static LeagueReport rptVolunteerReport3(const ReportInput& input);
+    static LeagueReport rptVolunteerReport4(const ReportInput& input);
+    static LeagueReport rptVolunteerReport5(const ReportInput& input);
+
+    // Ratings.
+    static LeagueReport rptAbilityRating1(const ReportInput& input);
+    static LeagueReport rptAbilityRating2(const ReportInput& input);
+    static LeagueReport rptAbilityReport3(const ReportInput& input);
+    static LeagueReport rptAbilityReport4(const ReportInput& input);
+    static LeagueReport rptAbilityReport5(const ReportInput& input);
+
+    // Mailing labels of players, volunteers and sponsors.
+    static LeagueReport rptLabelFormat1(const ReportInput& input);
+    static LeagueReport rptLabelFormat2(const ReportInput& input);
+    static LeagueReport rptLabelFormat3(const ReportInput& input);
+
 private:
     // The categories of the table.
     static ReportCategory playerReports();
@@ -73,6 +111,11 @@ private:
     /// Rows that follow each other by DivName or TeamName. With a caption, a footer holds the group's totals.
     static report::Group byDivision(const QString& footer = {});
     static report::Group byTeam(const QString& footer = {});
+    static report::Group byField(const QString& key);
+    /// What is said where there is nothing to print.
+    static report::NoData noRecords();
+    /// Whether a text of a list stands for all of its entries, as no text does.
+    static bool meansAll(const QString& entry, ListKind kind);
 
     // Players' rows: the columns of the lists, with those of division and team.
 
@@ -141,4 +184,59 @@ private:
     static report::ReportDefinition pantCounts(const SizeOwners& owners);
     static report::ReportDefinition hatCounts(const SizeOwners& owners);
     static report::ReportDefinition shoeCounts(const SizeOwners& owners);
+
+    // Schedules: live games, with the name of the division as DivName.
+
+    static QueryText games();
+    static report::Line gameColumns(std::initializer_list<report::Column> more);
+    static report::Column gameDivision();
+    static report::Column gameField();
+
+    // Teams.
+
+    /// Live teams of live divisions, with TeamSponsor and, where there is one, the name of the HeadCoach.
+    static QueryText teamRecords(const ReportInput& input);
+    /// As byTeam, for rows with a TeamId: two teams of a division may have one name.
+    static report::Group byTeamId();
+    static report::Field teamSponsor();
+    /// The position of a member of a team's staff, as people call it.
+    static report::Field staffPosition();
+    /// A flag that is 0 for yes.
+    static report::Field yesIsZero(const QString& name);
+
+    // Sponsors.
+
+    static QueryText sponsors(const QString& moreColumns = {}, const QString& joins = {});
+    /// One row for each team that a sponsor has.
+    static QueryText sponsorsOfTeams(const ReportInput& input);
+    static report::ReportDefinition sponsorList(const ReportInput& input, const QString& title);
+    /// Such a list by name, with sums.
+    static LeagueReport allSponsors(report::ReportDefinition list, const QueryText& rows);
+
+    // Volunteers, each once.
+
+    static QueryText volunteers(const QString& moreColumns = {}, const QString& joins = {});
+    /// Those of the players of live divisions, once for each division or team that `parents` names.
+    static QueryText volunteersOfPlayers(const ReportInput& input, Needs parents);
+    static QueryText& whereVolunteer(QueryText& query, const QString& entry);
+    static report::ReportDefinition volunteerRecord(const ReportInput& input, const QString& title);
+    static report::ReportDefinition rptVolunteerPlayer();
+    static report::ReportDefinition rptVolunteerPositions();
+    static report::ReportDefinition rptVolunteerAssignments();
+    static report::ReportDefinition rptVolunteerCertifications();
+
+    // Ratings.
+
+    /// Active players with their grades.
+    static report::ReportDefinition ratingList(const ReportInput& input, const QString& title, Needs parents,
+                                               const QString& order);
+    /// Columns of a row of tblAbilityRating that is joined to its person.
+    static QString gradesOfPlayers();
+    static QString gradesOfStaff();
+    static report::Column gradeCell(const QString& caption, const QString& name);
+    static std::vector<report::Line> playerGrades();
+    static std::vector<report::Line> staffGrades(const QString& otherwise);
+
+    /// A sheet of labels from the columns Address1, Address2, City, State, PostalCode and CountryCode.
+    static LeagueReport labels(const ReportInput& input, const report::Field& name, const report::Query& query);
 };

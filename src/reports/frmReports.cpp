@@ -28,7 +28,8 @@ frmReports::frmReports(Program& program)
       optionButtons_(new QButtonGroup(this)),
       destinationButtons_(new QButtonGroup(this)),
       database_(program.store.workspace.openDatabase(program.store.dataFilePath)),
-      output_(program) {
+      output_(program),
+      labels_(program) {
     auto* content = new QWidget;
     auto* columns = new ColumnRow(content);
     columns->addColumn(makeCategories(), 2);
@@ -185,7 +186,13 @@ void frmReports::run() {
     const ReportOption& option = *chosen();
     if (!meetsDemands(option) || !option.report) return;
     try {
-        UpdateStatusBar(output_.run(option.report(input()), destinationButtons_->checkedId(), this));
+        ReportInput with = input();
+        if (categoryButtons_->checkedId() == mailingLabels) {
+            const std::optional<LabelOptions> labels = labels_.begin(optionButtons_->checkedId());
+            if (!labels) return;
+            with.labels = *labels;
+        }
+        UpdateStatusBar(output_.run(option.report(with), destinationButtons_->checkedId(), this));
     } catch (const std::exception& failure) {
         program_.dialogs().error(option.caption, QString::fromUtf8(failure.what()));
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/report/Report.h"
+#include "reports/MailingLabels.h"
 #include "reports/ReportOutput.h"
 #include "reports/ReportTable.h"
 #include "shell/MainScreen.h"
@@ -62,4 +63,5 @@ private:
     qint64 seenChanges_ = 0;       ///< the data file's count of changes when the lists were read
     QPushButton* print_ = nullptr;
     ReportOutput output_;
+    MailingLabels labels_;
 };

@@ -60,7 +60,7 @@ QWidget* frmReports::makeOptions() {
     byDivision_->setObjectName("chkByDivision");
     labelOptions_ = new QPushButton(tr("Mailing L&abel Options"));
     labelOptions_->setObjectName("cmdMailingLabelOptions");
-    labelOptions_->setEnabled(false);
+    connect(labelOptions_, &QPushButton::clicked, this, [this] { labels_.choose(optionButtons_->checkedId()); });
     auto* row = new QHBoxLayout;
     row->addWidget(byDivision_, 1);
     row->addWidget(labelOptions_);

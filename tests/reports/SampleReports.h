@@ -33,6 +33,10 @@ struct SampleReports {
         return input;
     }
 
+    // One of each who has much to tell.
+    static inline const QString busySponsor = "Canyon Auto Body";
+    static inline const QString busyVolunteer = "Yang, Greg - 580-9052";
+
     LeagueFile league;
 
 private:

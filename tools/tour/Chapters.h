@@ -13,6 +13,12 @@ void visitEquipment(Guide& guide);
 /// A registration form, a roster and the balance report in their previews.
 void visitReports(Guide& guide);
 
+/// A sheet of mailing labels with the first labels used up.
+void visitLabels(Guide& guide);
+
+/// A game of the schedule, a result and the standings.
+void visitGames(Guide& guide);
+
 /// A second officer's file is made and merged.
 void mergeSecondFile(Guide& guide);
 

@@ -53,8 +53,7 @@ public:
 
     /// Runs `cause`, which brings up a dialog, and `act` in that dialog, which has to close it.
     void during(const std::function<void()>& cause, const QString& dialog, const std::function<void()>& act);
-
-    /// In a dialog: what is to be done in the next one that comes up over it.
+    /// From within such an act: what is done in the dialog that comes up after this one.
     void next(const std::function<void()>& act) { act_ = act; }
 
     /// Writes the next picture, "03-name.png": the front window, over the screen that it stands in front of.

@@ -80,6 +80,7 @@ Tour::Tour(ProgramParts& parts, Guide& guide, QString pdf) : parts_(parts), guid
 void Tour::take() {
     start();
     visitReports(guide_);
+    visitLabels(guide_);
     openRegistration();
     renameOrganization();
     addDivision();
@@ -96,6 +97,7 @@ void Tour::take() {
     goToNavigator();
     visitTeams(guide_);
     visitEquipment(guide_);
+    visitGames(guide_);
     mergeSecondFile(guide_);
     visitMaintenance(guide_, QFileInfo(pdf_).absolutePath() + "/Kestrelmoor.zip");  // the last: it changes the league
     guide_.click("cmdReports");
