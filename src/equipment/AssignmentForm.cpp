@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int quantityDigits = 5;
+constexpr int nameCharacters = 120;  // no entry of a list is longer
 
 template <class Entry>
 Binding bound(Entry& entry, QString Entry::*field, int length = 0) {
@@ -45,13 +46,14 @@ Form* AssignmentPane::makeForm() {
 
 void AssignmentPane::addHolder(FormBuilder& builder) {
     const auto list = [&](const char* name, const QString& caption, QString Entry::*field) {
-        builder.choice(name, caption, bound(entry_, field), {}, ChoiceBox::FreeText | ChoiceBox::EmptyFirst);
+        builder.choice(name, caption, bound(entry_, field, nameCharacters), {},
+                       ChoiceBox::FreeText | ChoiceBox::EmptyFirst);
     };
     builder.frame(tr("Assign To..."), 1)
         .options("optAssignTo", {}, {tr("Division"), tr("Team"), tr("Player"), tr("Volunteer")},
                  {[this] { return entry_.assignTo; }, [this](int choice) { entry_.assignTo = choice; }})
         .frame(tr("Search Lists"), 1);
-    list("cboDivisionList", tr("Di&vision List"), &Entry::division);
+    list("cboDivisionList", tr("D&ivision List"), &Entry::division);
     list("cboTeamList", tr("Tea&m List"), &Entry::team);
     list("cboPlayerList", tr("&Player List"), &Entry::player);
     list("cboVolunteerList", tr("Vol&unteer List"), &Entry::volunteer);
@@ -60,9 +62,8 @@ void AssignmentPane::addHolder(FormBuilder& builder) {
 }
 
 void AssignmentPane::addItem(FormBuilder& builder) {
-    builder.frame(tr("Equipment"))
-        .span(2)
-        .choice("cboEquipmentList", tr("E&quipment List"), bound(entry_, &Entry::item), {},
+    builder.frame(tr("Equipment"), 1)
+        .choice("cboEquipmentList", tr("E&quipment List"), bound(entry_, &Entry::item, nameCharacters), {},
                 ChoiceBox::FreeText | ChoiceBox::EmptyFirst)
         .shown(
             "lblTotalAvailable", tr("Total Available"), [this] { return QString::number(available_.total); }, 6)
@@ -72,7 +73,7 @@ void AssignmentPane::addItem(FormBuilder& builder) {
         .text("txtDistributionQuantity", tr("Quantity Distri&buted"), bound(entry_, &Entry::given, quantityDigits),
               FilterNumeric)
         .date("dtpDistributionDate", tr("Date Distributed"), bound(entry_, &Entry::givenOn))
-        .text("txtReturnQuantity", tr("Quantity Returne&d"), bound(entry_, &Entry::returned, quantityDigits),
+        .text("txtReturnQuantity", tr("Quantity Returned"), bound(entry_, &Entry::returned, quantityDigits),
               FilterNumeric)
         .date("dtpReturnDate", tr("Date Returned"), bound(entry_, &Entry::returnedOn));
 }

@@ -74,7 +74,7 @@ void InventoryPane::addItemFrame(FormBuilder& builder) {
 
 void InventoryPane::addPurchaseFrame(FormBuilder& builder) {
     builder.frame(tr("Purchase"), 1)
-        .choice("cboVendorId", tr("&Vendor Name"), nameBinding(item_.EquipmentVendor, vendors_), vendors_.names)
+        .choice("cboVendorId", tr("Vendor Name"), nameBinding(item_.EquipmentVendor, vendors_), vendors_.names)
         .money("mskedCost", tr("Purchase Price"), item_.EquipmentCost)
         .date("dtpPurchaseDate", tr("Purchase Date"), item_.EquipmentPurchaseDate)
         .date("dtpWarrantyExpiration", tr("&Warranty Expiration"), item_.EquipmentWarrantyExpiration);
@@ -106,7 +106,7 @@ void InventoryPane::LoadEquipmentDataControls() {
                     "VendorId");
     agencies_ = read(
         "SELECT *, ([InsAgencyName]) as Name FROM tblInsurance WHERE [DeletedFlag] = False ORDER BY [InsAgencyName]",
-        "InsuranceId");
+        "InsId");
 }
 
 void InventoryPane::readChoices() {

@@ -44,6 +44,7 @@ TEST_F(Journey, FirstStartLeadsToTheFirstPlayerOnThePrintedList) {
     Screen* reports = parts.screens().load("frmReports");
     ASSERT_TRUE(QTest::qWaitForWindowExposed(reports));
     control<QAbstractButton>(reports, "optReportSelection12")->click();
+    control<QAbstractButton>(reports, "optReportOptions2")->click();
     control<QAbstractButton>(reports, "optReportDestination3")->click();
     const QString pdf = folder.filePath("list.pdf");
     dialogs.expectSaveFile("Save Report", pdf);

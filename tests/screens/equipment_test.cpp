@@ -225,6 +225,23 @@ TEST_F(EquipmentAssignmentTest, AnItemThatIsAllOutComesBackThroughTheGrid) {
     press(screen, "cmdDelete");
 }
 
+TEST_F(EquipmentAssignmentTest, AnItemJustEnteredIsFoundByTyping) {
+    auto* tabs = screen->findChild<QTabWidget*>();
+    tabs->setCurrentIndex(0);
+    press(screen, "cmdAdd");
+    type(screen, "txtItemName", "Bag");
+    type(screen, "txtDescription", "Blue for six");
+    press(screen, "cmdSave");
+    tabs->setCurrentIndex(1);
+    type(screen, "cboDivisionList", "mino");
+    type(screen, "cboEquipmentList", "Bag - B");
+    EXPECT_EQ(chosen("cboEquipmentList"), "Bag - Blue for six");
+    EXPECT_EQ(label("lblTotalAvailable") + ' ' + label("lblQuantityAvailable"), "1 1");
+    type(screen, "txtDistributionQuantity", "1");
+    press(screen, "cmdSave");
+    EXPECT_EQ(status(screen), "Assignment Added.");
+}
+
 TEST_F(EquipmentAssignmentTest, WhatIsMissingIsTold) {
     const QString noItem = "\nYou must select an Equipment Item to assign.";
     const struct {

@@ -14,7 +14,7 @@ void addItem(Guide& guide) {
     guide.key(Qt::Key_N, Qt::AltModifier);
     guide.waitForFocus("txtItemName");
     guide.fill("txtItemName", "Helmet bag");
-    guide.fill("txtDescription", "Blue, for six helmets");
+    guide.fill("txtDescription", "Blue for six helmets");
     guide.fill("txtNbrItems", "4");
     guide.picture("equipment-new");
     guide.key(Qt::Key_S, Qt::AltModifier);
@@ -27,7 +27,7 @@ void checkOut(Guide& guide) {
     guide.click("optAssignTo1");
     guide.fill("cboDivisionList", "Rookie Ball");
     guide.fill("cboTeamList", "Orchard Owls");
-    guide.fill("cboEquipmentList", "Helmet bag");
+    guide.fill("cboEquipmentList", "Helmet bag - Blue for six helmets");
     guide.fill("txtDistributionQuantity", "4");
     guide.picture("equipment-out");
     guide.key(Qt::Key_S, Qt::AltModifier);

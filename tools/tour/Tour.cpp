@@ -97,7 +97,6 @@ void Tour::take() {
     goToNavigator();
     visitTeams(guide_);
     visitEquipment(guide_);
-    visitGames(guide_);
     mergeSecondFile(guide_);
     visitMaintenance(guide_, QFileInfo(pdf_).absolutePath() + "/Kestrelmoor.zip");  // the last: it changes the league
     guide_.click("cmdReports");
