@@ -95,7 +95,7 @@ void Comparison::addMeasured(const Subject& subject, int times, const MeasuredWo
             ->UseManualTime();
     };
     measure(oursMark, ours);
-    measure(rawMark, raw);
+    if (raw) measure(rawMark, raw);
     rows_.push_back({subject});
 }
 

@@ -39,7 +39,7 @@ public:
     /// Both are called over and over; without `raw` there is nothing to compare with.
     void add(const Subject& subject, Work ours, Work raw = {});
     /// For work that measures itself, such as the start of a program; each is done so many times.
-    void addMeasured(const Subject& subject, int times, const MeasuredWork& ours, const MeasuredWork& raw);
+    void addMeasured(const Subject& subject, int times, const MeasuredWork& ours, const MeasuredWork& raw = {});
     /// Measures and prints. The program's exit code.
     int run();
 

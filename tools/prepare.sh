@@ -3,6 +3,7 @@
 kestrel_packages() {
     local wanted=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libsqlite3-dev libzip-dev
         libgtest-dev libbenchmark-dev clang libclang-rt-dev sqlite3 poppler-utils xvfb xauth
+        libreoffice-calc-nogui libreoffice-writer-nogui
         libgl1-mesa-dev libxkbcommon-dev fonts-dejavu-core fonts-liberation fonts-comic-neue fonts-droid-fallback)
     local missing=()
     local name

@@ -1,7 +1,11 @@
 #include "app/ScreenRegister.h"
 
 #include "league/frmFieldAvailability.h"
+#include "equipment/frmEquipment.h"
 #include "league/frmTeams.h"
+#include "maintenance/frmBackup.h"
+#include "maintenance/frmMerge.h"
+#include "maintenance/frmNewSeason.h"
 #include "ratings/frmRatings.h"
 #include "registration/frmRegister.h"
 #include "reports/frmReports.h"
@@ -24,6 +28,7 @@ void registerScreens(Program& program) {
         screens.addScreen(name, [&program, name] { return std::make_unique<EmptyScreen>(program, name); });
     }
     screens.addScreen("frmRatings", [&program] { return std::make_unique<frmRatings>(program); });
+    screens.addScreen("frmEquipment", [&program] { return std::make_unique<frmEquipment>(program); });
     screens.addScreen("frmRegister", [&program] { return std::make_unique<frmRegister>(program); });
     screens.addScreen("frmReports", [&program] { return std::make_unique<frmReports>(program); });
     screens.addScreen("frmResults", [&program] { return std::make_unique<frmResults>(program); });
@@ -31,6 +36,9 @@ void registerScreens(Program& program) {
     screens.addScreen("frmTeams", [&program] { return std::make_unique<frmTeams>(program); });
     screens.addScreen(navigatorName, [&program] { return std::make_unique<frmStartUp>(program); });
     screens.addForm("frmAbout", [&program] { return std::make_unique<frmAbout>(program.dialogs()); });
+    screens.addForm("frmBackup", [&program] { return std::make_unique<frmBackup>(program); });
+    screens.addForm("frmMerge", [&program] { return std::make_unique<frmMerge>(program); });
+    screens.addForm("frmNewSeason", [&program] { return std::make_unique<frmNewSeason>(program); });
     screens.addForm("frmExport", [&program] { return std::make_unique<frmExport>(program); });
     screens.addForm("frmImport", [&program] { return std::make_unique<frmImport>(program); });
     screens.addForm("frmFieldAvailability",

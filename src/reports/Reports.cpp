@@ -1,11 +1,12 @@
 #include "reports/Reports.h"
 
 #include "platform/text/Dates.h"
-#include "store/AgeRule.h"
 
-report::ReportDefinition Reports::headed(const ReportInput& input, const QString& title) {
+using namespace report;
+
+ReportDefinition Reports::headed(const ReportInput& input, const QString& title) {
     const QString& format = input.globals.defaultDateFormat;
-    report::ReportDefinition definition;
+    ReportDefinition definition;
     definition.title = title;
     definition.organization = input.globals.organizationName;
     definition.asOf = formatDate(input.today, format.isEmpty() ? QStringLiteral("M/d/yy") : format);
@@ -13,38 +14,34 @@ report::ReportDefinition Reports::headed(const ReportInput& input, const QString
     return definition;
 }
 
-report::Field Reports::playerAddress() {
-    return report::computed([](const report::Row& row) {
-        QStringList lines{row.text("PlayerAddress1"), row.text("PlayerAddress2")};
-        lines.removeAll(QString());
-        return lines.join(QStringLiteral(", "));
-    });
+namespace {
+
+Group group(const QString& key, const Field& heading, const QString& footer) {
+    Group result{.key = key, .header = {{.field = heading}}};
+    if (!footer.isEmpty()) result.footer = fixed(footer);
+    return result;
 }
 
-/// "Ann & Bob Smith" for two of one name, "Ann Smith & Bob Jones" for others.
-report::Field Reports::playerGuardians() {
-    return report::computed([](const report::Row& row) {
-        const QString lastName = row.text("PlayerDadLastName");
-        const bool oneName = lastName == row.text("PlayerMomLastName") && !row.text("PlayerMomFirstName").isEmpty();
-        QStringList guardians;
-        for (const char* which : {"Dad", "Mom"}) {
-            const QString column = QStringLiteral("Player") % QLatin1String(which);
-            const QString first = row.text(column % QStringLiteral("FirstName"));
-            const QString last = row.text(column % QStringLiteral("LastName"));
-            const bool firstAlone = oneName && which[0] == 'D';
-            const QString name = firstAlone ? first : QString(first % u' ' % last).trimmed();
-            if (!name.isEmpty()) guardians << name;
-        }
-        return guardians.join(QStringLiteral(" & "));
-    });
+}  // namespace
+
+Group Reports::byDivision(const QString& footer) {
+    return group("DivName", column("DivName").before(tr("Division:") + u' ').orElse(tr("Not Assigned to a Division")),
+                 footer);
 }
 
-report::Field Reports::playerAge(const ReportInput& input) {
-    const CutOff defaults{input.globals.defaultAgeCutoffMonth, input.globals.defaultAgeCutoffDay};
-    return report::computed([defaults, season = input.globals.currentSeasonYear](const report::Row& row) -> QVariant {
-        const QDate birth = QDate::fromString(row.text("PlayerBirthDate").left(10), Qt::ISODate);
-        if (!birth.isValid()) return {};
-        const CutOff cutOff = cutOffByField({row.text("DivAgeCutOffMonth"), row.text("DivAgeCutOffDay")}, defaults);
-        return CalculateAge(shortDate(birth), cutOff.month, cutOff.day, season);
-    });
+Group Reports::byTeam(const QString& footer) {
+    return group("TeamName", column("TeamName").before(tr("Team:") + u' ').orElse(tr("Not Assigned to a Team")),
+                 footer);
+}
+
+Group Reports::byField(const QString& key) {
+    return group(key, column(key).before(tr("Field:") + u' ').orElse(tr("Not Assigned to a Field")), {});
+}
+
+NoData Reports::noRecords() {
+    return {tr("No Data to Report"), tr("No Records available to") + u'\n' + tr("display on the report.")};
+}
+
+bool Reports::meansAll(const QString& entry, ListKind kind) {
+    return entry.isEmpty() || entry == ReportLists::allEntry(kind);
 }

@@ -59,6 +59,7 @@ public:
             if (rows_.fieldName(field).compare(name, Qt::CaseInsensitive) == 0) return field;
         return -1;
     }
+    int columnCount() const override { return rows_.fieldCount(); }
     bool next() override {
         if (started_) rows_.moveNext();
         started_ = true;

@@ -2,70 +2,22 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QGridLayout>
-#include <QGroupBox>
+#include <QEvent>
 #include <QLabel>
-#include <QPageSetupDialog>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScopeGuard>
 #include <QScrollArea>
 
-#include "platform/report/ReportFiller.h"
-#include "platform/report/ReportPreview.h"
+#include "league/clsTeam.h"
 #include "platform/widgets/ChoiceBox.h"
 #include "platform/widgets/FormLayout.h"
 #include "reports/Reports.h"
-#include "reports/StoreRows.h"
 #include "shell/Program.h"
 
 namespace {
 
-/// The numbers under which the output routine knows its destinations.
-enum Destination { Preview = 1, Print = 2, RtfFile = 3, PdfFile = 4, HtmlFile = 5, ExcelFile = 6 };
-
-struct DestinationEntry {
-    Destination number;
-    const char* caption;
-    const char* button;  ///< the print button's caption
-    bool exists = true;  ///< in this version
-};
-
-/// In the order of the buttons.
-constexpr DestinationEntry destinations[] = {
-    {Print, QT_TRANSLATE_NOOP("frmReports", "Print"), QT_TRANSLATE_NOOP("frmReports", "&Print")},
-    {Preview, QT_TRANSLATE_NOOP("frmReports", "Print Preview"), QT_TRANSLATE_NOOP("frmReports", "&Preview")},
-    {RtfFile, QT_TRANSLATE_NOOP("frmReports", "File: RTF Format"), QT_TRANSLATE_NOOP("frmReports", "&RTF File"), false},
-    {PdfFile, QT_TRANSLATE_NOOP("frmReports", "File: PDF Format"), QT_TRANSLATE_NOOP("frmReports", "&PDF File")},
-    {HtmlFile, QT_TRANSLATE_NOOP("frmReports", "File: HTML Format"), QT_TRANSLATE_NOOP("frmReports", "HT&ML File"),
-     false},
-    {ExcelFile, QT_TRANSLATE_NOOP("frmReports", "File: Excel Format"), QT_TRANSLATE_NOOP("frmReports", "&Excel File"),
-     false},
-};
-
-constexpr int mailingLabels = 9;  ///< the category with options of its own
-
-QRadioButton* addRadio(QButtonGroup* group, int id, const QString& name, const QString& text = {}) {
-    auto* button = new QRadioButton(text);
-    button->setObjectName(name);
-    group->addButton(button, id);
-    return button;
-}
-
-/// Tab reaches the selected button of a group and no other. Qt sees to that only where the selection changes by key.
-void putTabStop(const QButtonGroup& group) {
-    for (QAbstractButton* button : group.buttons())
-        button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
-}
-
-/// A button for what comes later says so.
-void setOffered(QWidget* button, bool offered, const QString& otherwise) {
-    button->setEnabled(offered);
-    button->setToolTip(offered ? QString() : otherwise);
-}
+constexpr int mailingLabels = 9;         ///< the category with options of its own
+constexpr int divisions = 1, teams = 2;  ///< the second and the third list
 
 }  // namespace
 
@@ -74,7 +26,10 @@ frmReports::frmReports(Program& program)
       categories_(Reports::table()),
       categoryButtons_(new QButtonGroup(this)),
       optionButtons_(new QButtonGroup(this)),
-      destinationButtons_(new QButtonGroup(this)) {
+      destinationButtons_(new QButtonGroup(this)),
+      database_(program.store.workspace.openDatabase(program.store.dataFilePath)),
+      output_(program),
+      labels_(program) {
     auto* content = new QWidget;
     auto* columns = new ColumnRow(content);
     columns->addColumn(makeCategories(), 2);
@@ -104,140 +59,88 @@ frmReports::frmReports(Program& program)
     connect(categoryButtons_, &QButtonGroup::idClicked, this, &frmReports::showCategory);
     connect(optionButtons_, &QButtonGroup::idClicked, this, &frmReports::showOption);
     connect(destinationButtons_, &QButtonGroup::idClicked, this, &frmReports::showDestination);
-    selectFirstReport();
-    destinationButtons_->button(Preview)->setChecked(true);
+    connect(byDivision_, &QCheckBox::clicked, this, &frmReports::showOption);
+    connect(lists_[divisions], &ChoiceBox::edited, this, &frmReports::fillTeams);
+    categoryButtons_->button(0)->setChecked(true);
+    showCategory(0);
+    destinationButtons_->button(Preview)->setChecked(true);  // nothing goes to paper unasked
     showDestination();
     categoryButtons_->checkedButton()->setFocus();
 }
 
-frmReports::~frmReports() = default;
-
-QWidget* frmReports::makeCategories() {
-    auto* frame = new QGroupBox(tr("Report Sele&ction"));
-    auto* column = new QVBoxLayout(frame);
-    for (int id = 0; id < int(categories_.size()); ++id)
-        column->addWidget(addRadio(categoryButtons_, id, QStringLiteral("optReportSelection%1").arg(id),
-                                   categories_[size_t(id)].caption));
-    column->addStretch();
-    return frame;
-}
-
-QWidget* frmReports::makeOptions() {
-    auto* frame = new QGroupBox(tr("Report &Options"));
-    auto* column = new QVBoxLayout(frame);
-    for (int id = 0; id < mostReportOptions; ++id)
-        column->addWidget(addRadio(optionButtons_, id, QStringLiteral("optReportOptions%1").arg(id)));
-    nothingToRun_ = new QLabel(tr("There are no reports of this kind."));
-    nothingToRun_->setObjectName("lblNoReports");
-    column->addWidget(nothingToRun_);
-    column->addStretch();
-    byDivision_ = new QCheckBox(tr("Select &By Division"));
-    byDivision_->setObjectName("chkByDivision");
-    byDivision_->setEnabled(false);
-    labelOptions_ = new QPushButton(tr("Mailing L&abel Options"));
-    labelOptions_->setObjectName("cmdMailingLabelOptions");
-    setOffered(labelOptions_, false, tr("Mailing labels come with a later version."));
-    auto* row = new QHBoxLayout;
-    row->addWidget(byDivision_, 1);
-    row->addWidget(labelOptions_);
-    column->addLayout(row);
-    return frame;
-}
-
-QWidget* frmReports::makeLists() {
-    auto* frame = new QWidget;
-    auto* grid = new QGridLayout(frame);
-    grid->setContentsMargins({});
-    grid->setHorizontalSpacing(spacing::label);
-    grid->setVerticalSpacing(spacing::line);
-    grid->setColumnStretch(1, 1);
-    for (size_t index = 0; index < lists_.size(); ++index) {
-        auto* list = lists_[index] = new ChoiceBox;
-        list->setObjectName(QStringLiteral("cboList%1").arg(index + 1));
-        auto* label = new QLabel(tr("(Not Used for this Report)"));
-        label->setObjectName(QStringLiteral("lblList%1").arg(index + 1));
-        label->setBuddy(list);
-        label->setEnabled(false);
-        list->setEnabled(false);
-        grid->addWidget(label, int(index), 0);
-        grid->addWidget(list, int(index), 1);
+void frmReports::showCategory(int category) {
+    if (category < 0 || category >= int(categories_.size())) {
+        program_.dialogs().error(tr("Report Selection Error"), tr("There has been an error in the selection.\n"
+                                                                  "Please notify Kestrelmoor Software of this error."));
+        return;
     }
-    return frame;
-}
-
-QWidget* frmReports::makeDestinations() {
-    auto* frame = new QGroupBox(tr("Report &Destination"));
-    auto* grid = new QGridLayout(frame);
-    constexpr int inRow = 3;
-    int place = 0;
-    for (const DestinationEntry& entry : destinations) {
-        auto* button = addRadio(destinationButtons_, entry.number, QStringLiteral("optReportDestination%1").arg(place),
-                                tr(entry.caption));
-        setOffered(button, entry.exists, tr("Files of this format come with a later version."));
-        grid->addWidget(button, place / inRow, place % inRow);
-        ++place;
-    }
-    return frame;
-}
-
-QLayout* frmReports::makeButtons() {
-    auto* row = new QHBoxLayout;
-    row->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
-    row->addStretch(1);
-    print_ = addButton(row, "cmdPrint", {}, &frmReports::run);
-    addButton(row, "cmdPrintSetup", tr("Print &Setup"), &frmReports::setUpPrinter);
-    connect(addButton(row, "cmdClose", tr("C&lose"), nullptr), &QPushButton::clicked, this, &QWidget::close);
-    return row;
-}
-
-QPushButton* frmReports::addButton(QLayout* row, const char* name, const QString& text, void (frmReports::*press)()) {
-    auto* button = new QPushButton(text);
-    button->setObjectName(name);
-    if (press) connect(button, &QPushButton::clicked, this, press);
-    row->addWidget(button);
-    return button;
-}
-
-/// The first category that has something to run.
-void frmReports::selectFirstReport() {
-    const auto hasReport = [](const ReportCategory& category) {
-        return std::any_of(category.options.begin(), category.options.end(),
-                           [](const ReportOption& option) { return option.report != nullptr; });
-    };
-    const auto first = std::find_if(categories_.begin(), categories_.end(), hasReport);
-    categoryButtons_->button(int(first - categories_.begin()))->setChecked(true);
-    showCategory();
-}
-
-/// Puts up the options of the chosen category and selects the first that can be run.
-void frmReports::showCategory() {
-    const std::vector<ReportOption>& options = categories_[size_t(categoryButtons_->checkedId())].options;
+    const std::vector<ReportOption>& options = categories_[size_t(category)].options;
     optionButtons_->setExclusive(false);  // so that there may be none selected
-    bool selected = false;
     for (int id = 0; id < mostReportOptions; ++id) {
         QAbstractButton* button = optionButtons_->button(id);
         const bool used = id < int(options.size());
-        const bool exists = used && options[size_t(id)].report != nullptr;
         button->setText(used ? options[size_t(id)].caption : tr("(Unused for this Report)"));
         button->setVisible(used);
-        setOffered(button, exists, tr("This report comes with a later version."));
-        button->setChecked(exists && !selected);
-        selected = selected || exists;
+        button->setChecked(used && id == 0);
     }
     optionButtons_->setExclusive(true);
     putTabStop(*categoryButtons_);
-    putTabStop(*optionButtons_);
     nothingToRun_->setVisible(options.empty());
-    labelOptions_->setVisible(categoryButtons_->checkedId() == mailingLabels);
+    byDivision_->setChecked(false);
+    labelOptions_->setVisible(category == mailingLabels);
     showOption();
 }
 
-void frmReports::showOption() { print_->setEnabled(chosen() != nullptr); }
+void frmReports::showOption() {
+    putTabStop(*optionButtons_);
+    const ReportOption* option = chosen();
+    print_->setEnabled(option != nullptr);
+    byDivision_->setEnabled(option && option->mayNarrow);
+    showLists();
+}
 
-void frmReports::showDestination() {
-    putTabStop(*destinationButtons_);
-    for (const DestinationEntry& entry : destinations)
-        if (entry.number == destinationButtons_->checkedId()) print_->setText(tr(entry.button));
+/// Another screen may have changed what the lists offer.
+void frmReports::changeEvent(QEvent* event) {
+    MainScreen::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !print_) return;
+    if (database_.changes() != seenChanges_) showLists();
+}
+
+/// Puts up the lists that the option uses. What is chosen stays chosen where the list still offers it.
+void frmReports::showLists() {
+    const ReportOption* option = chosen();
+    const bool used = option && (!option->mayNarrow || byDivision_->isChecked());
+    const Scope scope = used ? option->scope : Scope::League;
+    fillList(0, used ? option->list : ListKind::None);
+    fillList(divisions, scope == Scope::League ? ListKind::None : ListKind::Divisions);
+    fillTeams();
+    seenChanges_ = database_.changes();
+    if (!used || !option->mayNarrow) return;
+    const bool byCategory = option->list == ListKind::Categories;
+    listLabels_[byCategory ? 0 : divisions]->setText(byCategory ? tr("Select by Category") : tr("Select by Division"));
+}
+
+void frmReports::fillTeams() {
+    const ReportOption* option = chosen();
+    fillList(teams, option && option->scope == Scope::Team ? ListKind::Teams : ListKind::None);
+}
+
+/// The lists of divisions and teams begin with all of them chosen, the first list with nothing.
+void frmReports::fillList(int index, ListKind kind) {
+    ChoiceBox* list = lists_[size_t(index)];
+    const QString before = kinds_[size_t(index)] == kind ? list->text() : QString();
+    std::vector<QString> entries;
+    if (kind != ListKind::None) entries = ReportLists::entries(program_.store, kind, chosenDivision());
+    kinds_[size_t(index)] = kind;
+    list->setText({});
+    list->setEntries(QStringList(entries.begin(), entries.end()));
+    if (list->indexOf(before) >= 0)
+        list->setText(before);
+    else if (index > 0)
+        list->setText(ReportLists::allEntry(kind));
+    list->setEnabled(kind != ListKind::None);
+    listLabels_[size_t(index)]->setText(ReportLists::label(kind));
+    listLabels_[size_t(index)]->setEnabled(kind != ListKind::None);
 }
 
 const ReportOption* frmReports::chosen() const {
@@ -245,76 +148,52 @@ const ReportOption* frmReports::chosen() const {
     return option < 0 ? nullptr : &categories_[size_t(categoryButtons_->checkedId())].options[size_t(option)];
 }
 
-report::Report frmReports::chosenReport() const {
-    ReportInput input{
-        .byDivision = byDivision_->isChecked(), .globals = program_.globals(), .today = program_.clock().today()};
-    for (size_t index = 0; index < lists_.size(); ++index) input.lists[index] = lists_[index]->text();
-    const StoreContext& store = program_.store;
-    return {chosen()->report(input), storeRows(store.workspace.openDatabase(store.dataFilePath))};
+/// A name that no live division has means all divisions.
+std::optional<int> frmReports::chosenDivision() {
+    const QString name = kinds_[divisions] == ListKind::None ? QString() : lists_[divisions]->text();
+    if (name.isEmpty() || name == ReportLists::allEntry(ListKind::Divisions)) return {};
+    const int id = clsTeam(program_.store).FindDivisionId(name);
+    return id == 0 ? std::nullopt : std::optional(id);
 }
 
-/// Prints the chosen report to the chosen destination. What fails is told; the screen stays as it was.
+ReportInput frmReports::input() {
+    ReportInput input{.divisionId = chosenDivision(),
+                      .byDivision = byDivision_->isChecked(),
+                      .globals = program_.globals(),
+                      .today = program_.clock().today()};
+    for (size_t index = 0; index < lists_.size(); ++index)
+        if (kinds_[index] != ListKind::None) input.lists[index] = lists_[index]->text();
+    const QString& team = input.lists[teams];
+    if (input.divisionId && !team.isEmpty() && team != ReportLists::allEntry(ListKind::Teams))
+        if (const int id = clsTeam(program_.store).FindTeamId(team, *input.divisionId); id != 0) input.teamId = id;
+    return input;
+}
+
+bool frmReports::meetsDemands(const ReportOption& option) {
+    for (const Demand& demand : option.demands) {
+        ChoiceBox* list = lists_[size_t(demand.list - 1)];
+        if (!list->text().isEmpty()) continue;
+        program_.dialogs().error(tr("Report Option Error..."), demand.message);
+        list->setFocus();
+        return false;
+    }
+    return true;
+}
+
+/// Sends the chosen report to the chosen destination. What fails is told; the screen stays as it was.
 void frmReports::run() {
     ResetStatusBar();
+    const ReportOption& option = *chosen();
+    if (!meetsDemands(option) || !option.report) return;
     try {
-        runTo(chosenReport(), destinationButtons_->checkedId());
+        ReportInput with = input();
+        if (categoryButtons_->checkedId() == mailingLabels) {
+            const std::optional<LabelOptions> labels = labels_.begin(optionButtons_->checkedId());
+            if (!labels) return;
+            with.labels = *labels;
+        }
+        UpdateStatusBar(output_.run(option.report(with), destinationButtons_->checkedId(), this));
     } catch (const std::exception& failure) {
-        program_.dialogs().error(chosen()->caption, QString::fromUtf8(failure.what()));
+        program_.dialogs().error(option.caption, QString::fromUtf8(failure.what()));
     }
-}
-
-void frmReports::runTo(const report::Report& report, int destination) {
-    switch (destination) {
-        case Preview: return preview(report);
-        case Print: return print(report);
-        case PdfFile: return savePdf(report);
-        default: return;
-    }
-}
-
-void frmReports::preview(const report::Report& report) {
-    report::ReportPreview window(report, printer(), program_.dialogs());
-    program_.dialogs().showModal(window);
-}
-
-void frmReports::print(const report::Report& report) {
-    QPrintDialog dialog(&printer());
-    dialog.setObjectName("printDialog");
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange);
-    if (program_.dialogs().showModal(dialog) != QDialog::Accepted) return;
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    report::print(printer(), report);
-}
-
-void frmReports::savePdf(const report::Report& report) {
-    const report::ReportDefinition& definition = report.definition;
-    const auto path = program_.dialogs().saveFile({.title = tr("Save Report"),
-                                                   .filters = tr("Portable Document Format (*.pdf)|*.pdf"),
-                                                   .defaultSuffix = ".pdf",
-                                                   .fileName = definition.title});
-    if (!path) return;
-    if (!report::ReportFiller(definition, report.rows).hasRows()) {
-        program_.dialogs().information(tr("No Data to Report"), tr("No data available for report."));
-        return;
-    }
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    const QPageLayout paper = report::paperFor(definition, printer().pageLayout().pageSize());
-    report::writePdf(*path, *report::paginate(report, paper), definition.title);
-    UpdateStatusBar(tr("Report saved as %1.").arg(*path));
-}
-
-void frmReports::setUpPrinter() {
-    QPageSetupDialog dialog(&printer());
-    dialog.setObjectName("pageSetupDialog");
-    program_.dialogs().showModal(dialog);
-}
-
-QPrinter& frmReports::printer() {
-    if (!printer_) {
-        printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-        if (QPrinterInfo::defaultPrinter().isNull()) printer_->setPageSize(QPageSize(QPageSize::Letter));
-    }
-    return *printer_;
 }

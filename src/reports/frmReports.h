@@ -1,13 +1,15 @@
 #pragma once
 
 #include "platform/report/Report.h"
+#include "reports/MailingLabels.h"
+#include "reports/ReportOutput.h"
 #include "reports/ReportTable.h"
 #include "shell/MainScreen.h"
 
 class ChoiceBox;
 class QButtonGroup;
 class QCheckBox;
-class QPrinter;
+class QLabel;
 class QPushButton;
 
 /// The place from which every report is previewed, printed and written to a file.
@@ -16,7 +18,12 @@ class frmReports final : public MainScreen {
 
 public:
     explicit frmReports(Program& program);
-    ~frmReports() override;
+
+    /// Puts up the options of a category and selects the first.
+    void showCategory(int category);
+
+protected:
+    void changeEvent(QEvent* event) override;
 
 private:
     QWidget* makeCategories();
@@ -26,22 +33,21 @@ private:
     QLayout* makeButtons();
     QPushButton* addButton(QLayout* row, const char* name, const QString& text, void (frmReports::*press)());
 
-    void selectFirstReport();
-    void showCategory();
+    static void putTabStop(const QButtonGroup& group);
+
     void showOption();
     void showDestination();
+    void showLists();
+    void fillList(int list, ListKind kind);
+    void fillTeams();
 
-    /// The chosen option, or null when there is none to run.
+    /// The chosen option, or null when there is none.
     const ReportOption* chosen() const;
-    report::Report chosenReport() const;
+    /// Says what is still to be chosen and goes there. True when nothing is.
+    bool meetsDemands(const ReportOption& option);
+    ReportInput input();
+    std::optional<int> chosenDivision();
     void run();
-    void runTo(const report::Report& report, int destination);
-    void preview(const report::Report& report);
-    void print(const report::Report& report);
-    void savePdf(const report::Report& report);
-    void setUpPrinter();
-    /// Made when it is first needed: asking the system for its printers takes time.
-    QPrinter& printer();
 
     std::vector<ReportCategory> categories_;
     QButtonGroup* categoryButtons_;
@@ -51,6 +57,11 @@ private:
     QCheckBox* byDivision_ = nullptr;
     QPushButton* labelOptions_ = nullptr;
     std::array<ChoiceBox*, 3> lists_{};
+    std::array<QLabel*, 3> listLabels_{};
+    std::array<ListKind, 3> kinds_{};
+    datafile::Database database_;  ///< held, so that its count of changes goes on
+    qint64 seenChanges_ = 0;       ///< the data file's count of changes when the lists were read
     QPushButton* print_ = nullptr;
-    std::unique_ptr<QPrinter> printer_;
+    ReportOutput output_;
+    MailingLabels labels_;
 };

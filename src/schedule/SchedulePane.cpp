@@ -189,19 +189,11 @@ bool SchedulePane::save() {
 }
 
 void SchedulePane::SaveScheduleGrid(const QString& division) {
-    datafile::Transaction transaction(database());
-    schedule_.DeleteDivisionSchedule(division, clsSchedule::Games::NotDeleted);
-    for (const GridRow& row : grid_->rows()) {
-        schedule_.ScheduleDate = *parseDate(row.cells.value(Date));
-        schedule_.ScheduleDay = row.cells.value(WeekDay);
-        schedule_.ScheduleDivision = division;
-        schedule_.ScheduleTime = *parseTime(row.cells.value(Time));
-        schedule_.ScheduleVisitorsTeam = row.cells.value(Visitors);
-        schedule_.ScheduleHomeTeam = row.cells.value(Home);
-        schedule_.ScheduleField = row.cells.value(Field);
-        schedule_.AddNewScheduleRecord();
-    }
-    transaction.commit();
+    std::vector<clsSchedule::Game> games;
+    for (const GridRow& row : grid_->rows())
+        games.push_back({*parseDate(row.cells.value(Date)), row.cells.value(WeekDay), *parseTime(row.cells.value(Time)),
+                         row.cells.value(Visitors), row.cells.value(Home), row.cells.value(Field)});
+    schedule_.ReplaceDivisionSchedule(division, games, clsSchedule::Games::NotDeleted);
 }
 
 bool SchedulePane::offerToSaveBeforeClosing() {

@@ -35,3 +35,23 @@ void clsSchedule::DeleteDivisionSchedule(const QString& division, Games which) {
                        (which == Games::All ? criteria : live(criteria)));
     main().requery();
 }
+
+void clsSchedule::ReplaceDivisionSchedule(const QString& division, const std::vector<Game>& games, Games which) {
+    using datafile::Value;
+    const Value today = datafile::fromDate(context().clock.today());
+    const Value now{qint64{context().clock.secondsSinceMidnight()}};
+    const Value name{division};
+    std::vector<datafile::Values> rows;
+    rows.reserve(games.size());
+    for (const Game& game : games)
+        rows.push_back({datafile::fromDate(game.date), Value{game.day},
+                        datafile::fromTime(TimeOfDay::toMinute(game.time)), name, Value{game.visitorsTeam},
+                        Value{game.homeTeam}, Value{game.field}, today, now, datafile::fromFlag(false)});
+    datafile::Transaction transaction(database());
+    DeleteDivisionSchedule(division, which);
+    main().addRows({"Date", "Day", "Time", "division", "VisitorsTeam", "HomeTeam", "Field", "DateStamp", "TimeStamp",
+                    "DeletedFlag"},
+                   rows);
+    transaction.commit();
+    main().requery();
+}

@@ -41,4 +41,16 @@ public:
     enum class Games { All, NotDeleted };
     /// Removes the division's games for good.
     void DeleteDivisionSchedule(const QString& division, Games which = Games::All);
+
+    struct Game {
+        QDate date;
+        QString day;
+        QTime time;
+        QString visitorsTeam;
+        QString homeTeam;
+        QString field;
+    };
+    /// Puts these games in the place of the division's, in one transaction: DeleteDivisionSchedule, and what
+    /// AddNewScheduleRecord does for each game, fast enough for thousands.
+    void ReplaceDivisionSchedule(const QString& division, const std::vector<Game>& games, Games which);
 };

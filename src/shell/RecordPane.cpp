@@ -242,8 +242,11 @@ void RecordPane::remove() {
 bool RecordPane::offerToSave(const QString& question, const QString& title) {
     if (!isChanged()) return true;
     if (program().dialogs().ask(title.isEmpty() ? tr("Save Record?") : title,
-                                question.isEmpty() ? tr("Save the current record?") : question))
-        return save();
+                                question.isEmpty() ? tr("Save the current record?") : question)) {
+        const bool saved = save();
+        if (saved && !text().savedByOffer.isEmpty()) Q_EMIT said(text().savedByOffer);
+        return saved;
+    }
     const QString unsaved = unsavedName();
     const bool wasNew = record_->isNew();
     dropEdits();

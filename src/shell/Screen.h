@@ -19,12 +19,12 @@ public:
     virtual bool offerToSave() { return true; }
     /// The screen was opened from the navigator: the place for the focus is its search list, if it has one.
     virtual void focusSearch() {}
+    /// The user came to this screen from another screen or form, which may have changed the data.
+    virtual void cameForward() {}
     /// Closes without another offer to save.
     void unload();
 
 protected:
-    /// The user came to this screen from another screen or form, which may have changed the data.
-    virtual void cameForward() {}
     /// The screen is about to go; its window still stands as the user left it.
     virtual void leaving() {}
     /// "Kestrelmoor - " and the path of the data file: the caption of every screen.

@@ -24,6 +24,7 @@ struct PaneText {
     QString addButton{};        ///< object name of a button of its own to add; empty: the screen's
     QString addCaption{};       ///< of that button
     QString saved{};            ///< said after a save, %1 is the name; empty: Record "%1" Saved.
+    QString savedByOffer{};     ///< the same where leaving the record brought up the save
     bool namesRepeat = false;   ///< records of one name stand in the list side by side
     int leastFormHeight = 0;    ///< where the window is lower the whole pane scrolls; 0: the form does by itself
 };

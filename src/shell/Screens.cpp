@@ -1,7 +1,6 @@
 #include "shell/Screens.h"
 
 #include <QCoreApplication>
-#include <vector>
 
 #include "platform/dialogs/Dialogs.h"
 
@@ -61,13 +60,29 @@ void Screens::showForm(const QString& name) {
     form.window->activateWindow();
 }
 
-bool Screens::endProgram() {
-    if (ending_) return true;
+std::vector<QPointer<Screen>> Screens::openScreens() const {
     std::vector<QPointer<Screen>> screens;
     for (const auto& [name, screen] : open_) screens.emplace_back(screen);
-    for (const auto& screen : screens) {
+    return screens;
+}
+
+bool Screens::offerToSave() {
+    for (const auto& screen : openScreens()) {
         if (!screen.isNull() && !screen->offerToSave()) return false;
     }
+    return true;
+}
+
+void Screens::showAnew() {
+    for (const auto& screen : openScreens()) {
+        if (!screen.isNull()) screen->cameForward();
+    }
+}
+
+bool Screens::endProgram() {
+    if (ending_) return true;
+    const std::vector<QPointer<Screen>> screens = openScreens();
+    if (!offerToSave()) return false;
     ending_ = true;
     for (const auto& [name, form] : forms_) {
         if (!form.window.isNull()) form.window->close();

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "shell/Screen.h"
 
@@ -34,6 +35,12 @@ public:
     bool show(const QString& name);
     bool isOpen(const QString& name) const { return open_.contains(name); }
 
+    /// Before work on the data file as a whole: every open screen offers to save its work. False when an offer was
+    /// answered with staying.
+    bool offerToSave();
+    /// After it: every open screen shows what the file holds now.
+    void showAnew();
+
     /// Ends the program: every open screen offers to save its work, then all close and the event loop is left.
     /// False when an offer was answered with staying; then everything is as it was.
     bool endProgram();
@@ -45,6 +52,7 @@ private:
     /// Notes the screen as the front one. True when it was not so before.
     bool takeFront(Screen& screen);
     void showForm(const QString& name);
+    std::vector<QPointer<Screen>> openScreens() const;
 
     struct Form {
         FormFactory factory;

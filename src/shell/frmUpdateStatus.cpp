@@ -49,6 +49,17 @@ void frmUpdateStatus::showStep(const QString& text) {
     paintNow();
 }
 
+void frmUpdateStatus::showPart(const QString& text) {
+    lblStatusText_->setText(text);
+    lblStatusText_->repaint();
+}
+
+void frmUpdateStatus::showPart(int percent) {
+    if (percent == prgStatusBar_->value()) return;
+    prgStatusBar_->setValue(percent);
+    prgStatusBar_->repaint();
+}
+
 void frmUpdateStatus::showProgress(int percent) {
     prgStatusBar_->setValue(percent);
     paintNow();

@@ -17,6 +17,10 @@ public:
     void begin();
     /// Names the step that starts, or leaves the text standing when it is empty. The window is painted.
     void showStep(const QString& text);
+    /// Names a part of the step. Painted at once and without the event loop, so that it may stand in a transaction.
+    void showPart(const QString& text);
+    /// The same with how far the work has come, 0 to 100.
+    void showPart(int percent);
     /// 0 to 100. The window is painted.
     void showProgress(int percent);
     /// Bar at 100, closing text, and the window may be closed.

@@ -15,21 +15,6 @@ namespace {
 
 bool sameName(const QString& one, const QString& other) { return one.compare(other, Qt::CaseInsensitive) == 0; }
 
-/// Whether the file refused a statement, as against not being able to carry out any.
-bool isRefusal(Fault fault) {
-    switch (fault) {
-        case Fault::NotFound:
-        case Fault::NotADataFile:
-        case Fault::Damaged:
-        case Fault::ReadOnly:
-        case Fault::Locked:
-        case Fault::Full:
-        case Fault::InputOutput:
-        case Fault::OutOfMemory: return false;
-        default: return true;
-    }
-}
-
 /// False when the file refused a part of the work.
 template <class Work>
 bool unlessRefused(Work work) {
@@ -37,7 +22,7 @@ bool unlessRefused(Work work) {
         work();
         return true;
     } catch (const Error& error) {
-        if (!isRefusal(error.fault())) throw;
+        if (!datafile::isRefusal(error.fault())) throw;
         return false;
     }
 }

@@ -53,6 +53,8 @@ struct FaultJob {
     /// too.
     std::function<std::function<QString()>(StoreContext&)> begin;
     std::function<void(const Aftermath&)> judge = expectBeforeOrAfter;
+    /// What the user does next, tried once in each of the states that are found.
+    std::function<void(const Aftermath&)> next = {};
 
     static const QString done;
     /// Each file is what it was or what it was to become, and that which the user was told.

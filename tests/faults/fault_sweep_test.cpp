@@ -79,7 +79,12 @@ void expectAnAnswer(const Struck& result, const Fault& fault, bool saidDone) {
     EXPECT_EQ(result.told.empty(), result.died);
     EXPECT_TRUE(!fault.again || saidDone) << "a second try failed";
     const bool isFull = result.at.contains("write") && kind == u"full";
-    EXPECT_TRUE(!isFull || saidDone || result.told.last().contains("no space left"));
+    const auto saysFull = [&] {
+        for (const char* text : {"no space left", "Insufficient Disk Space", "is full"})
+            if (result.told.last().contains(QLatin1String(text))) return true;
+        return false;
+    };
+    EXPECT_TRUE(!isFull || saidDone || saysFull());
 }
 
 QStringList names() {
@@ -117,6 +122,10 @@ protected:
             expectNoStrayFile(aftermath, fault);
             expectAnAnswer(result, fault, aftermath.saidDone());
             job_.judge(aftermath);
+            const QString state = now.value("Kestrelmoor.kmr") + QString::number(now.size());
+            if (!job_.next || tried_.contains(state)) return;
+            tried_ << state;
+            job_.next(aftermath);
         } catch (const std::exception& error) {
             ADD_FAILURE() << error.what();
         }
@@ -127,7 +136,8 @@ protected:
     LeagueFolder originals_{originalsFolder_.path()};
     QMap<QString, QString> before_;
     QMap<QString, QString> after_;
-    int changes_ = 0;  ///< that the work makes when no fault strikes
+    QSet<QString> tried_;  ///< states from which the user went on
+    int changes_ = 0;      ///< that the work makes when no fault strikes
 };
 
 TEST_P(FaultSweep, LeavesTheStateBeforeOrAfterAndTellsTheTruth) {

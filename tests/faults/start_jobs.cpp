@@ -26,15 +26,9 @@ void expectNextStartToPass(const LeagueFolder& folder) {
     });
 }
 
-/// Behind a step that is done but not yet told by the file's version one start is enough; the short form leaves that to
-/// the chain.
-std::function<void(const Aftermath&)> judgeStep() {
-    return [started = std::make_shared<bool>(false)](const Aftermath& aftermath) {
-        FaultJob::expectBeforeOrAfter(aftermath);
-        if (!isFullSweep() || *started || aftermath.now[dataFile] != aftermath.after[dataFile]) return;
-        *started = true;
-        expectNextStartToPass(aftermath.folder);
-    };
+/// The start behind a single step; the short form leaves that to the chain.
+void startAfterStep(const Aftermath& aftermath) {
+    if (isFullSweep()) expectNextStartToPass(aftermath.folder);
 }
 
 FaultJob stepJob(const UpgradeStep& step) {
@@ -48,7 +42,7 @@ FaultJob stepJob(const UpgradeStep& step) {
                     if (name == QLatin1String(each.name))
                         runUpgradeStep(each, context, context.workspace.openDatabase(context.dataFilePath));
             }),
-            .judge = judgeStep()};
+            .next = startAfterStep};
 }
 
 void prepareEnd(const LeagueFolder& folder) {
@@ -70,14 +64,15 @@ auto speaking(Work work) {
     };
 }
 
-/// What single steps did is compared by way of the next start: a part of one would stand in its way.
 void judgeChain(const Aftermath& aftermath) {
-    {
-        datafile::Workspace workspace;
-        const auto version =
-            workspace.openDatabase(aftermath.folder.dataFile()).openRecordset("tblVersion").text("DBVersion");
-        EXPECT_TRUE(!aftermath.saidDone() || version == GetCurrentDBVersion()) << "the user was told otherwise";
-    }
+    datafile::Workspace workspace;
+    const QString version =
+        workspace.openDatabase(aftermath.folder.dataFile()).openRecordset("tblVersion").text("DBVersion");
+    EXPECT_TRUE(!aftermath.saidDone() || version == GetCurrentDBVersion()) << "the user was told otherwise";
+}
+
+/// What single steps did is compared by way of the next start: a part of one would stand in its way.
+void startAfterChain(const Aftermath& aftermath) {
     expectNextStartToPass(aftermath.folder);
     EXPECT_TRUE(aftermath.folder.contents()[dataFile] == aftermath.after[dataFile]);
 }
@@ -101,11 +96,12 @@ QList<FaultJob> startJobs() {
                      .begin = FaultJob::step([](StoreContext& context) {
                          finishUpgrade(context.workspace.openDatabase(context.dataFilePath));
                      }),
-                     .judge = judgeStep()};
+                     .next = startAfterStep};
     jobs << FaultJob{.name = "chain",
                      .samples = 6,
                      .prepare = [](const auto& folder) { olderfile::make(folder.dataFile(), sampledVersion); },
                      .begin = speaking(CorrectVersion),
-                     .judge = judgeChain};
+                     .judge = judgeChain,
+                     .next = startAfterChain};
     return jobs;
 }

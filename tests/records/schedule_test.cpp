@@ -66,6 +66,29 @@ TEST_F(ScheduleTest, DivisionsGamesAreRemovedForGood) {
     EXPECT_EQ(game.recordCount(), 2);
 }
 
+TEST_F(ScheduleTest, ScheduleOfADivisionIsReplacedAsAWhole) {
+    for (const char* division : {"Minors", "Minors", "Majors"}) add(division, QTime(9, 0));
+    ASSERT_TRUE(game.FindScheduleRecord(1, false, true));
+    game.DeleteScheduleRecord();
+    const std::vector<clsSchedule::Game> games{
+        {saturday, "Saturday", QTime(10, 30, 44), "Hawks", "Owls", "Oak \"A\""},
+        {saturday.addDays(1), "", QTime(11, 0), "", "", ""}};
+    game.ReplaceDivisionSchedule("Minors", games, clsSchedule::Games::NotDeleted);
+    EXPECT_EQ(league.count("SELECT * FROM tblSchedule WHERE [division] = \"Minors\""), 3) << "with the deleted one";
+    ASSERT_TRUE(
+        game.FindScheduleMergeRecord(saturday, "Saturday", QTime(10, 30), "Minors", "Hawks", "Owls", "Oak \"A\"", true));
+    EXPECT_EQ(game.ScheduleStamps.DateStamp(), QDate(2026, 4, 22));
+    EXPECT_EQ(game.ScheduleStamps.TimeStamp, 12 * 3600);
+    EXPECT_FALSE(game.ScheduleStamps.DeletedFlag);
+    EXPECT_EQ(game.recordCount(), 4);
+    const clsSchedule::Game tooLong{saturday, "", QTime(9, 0), QString(36, u'x'), "", ""};
+    EXPECT_THROW(game.ReplaceDivisionSchedule("Minors", {games[0], tooLong}, clsSchedule::Games::All),
+                 datafile::Error);
+    EXPECT_EQ(league.count("tblSchedule"), 4) << "nothing has changed";
+    game.ReplaceDivisionSchedule("Minors", {}, clsSchedule::Games::All);
+    EXPECT_EQ(league.count("tblSchedule"), 1);
+}
+
 class ResultsTest : public testing::Test {
 protected:
     void play(int home, int visitor, int homeScore, int visitorScore, QTime time = QTime(9, 0)) {

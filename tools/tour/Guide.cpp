@@ -140,18 +140,17 @@ void Guide::watch() {
     QWidget* dialog = QApplication::activeModalWidget();
     if (dialog != seen_) {
         seen_ = dialog;
-        met_ = false;
         standing_.start();
     }
-    if (!dialog) return;
+    if (!dialog || dialog->objectName() == "frmStatusBar") return;  // which only shows how far some work has come
     const auto* box = qobject_cast<QMessageBox*>(dialog);
     const QString name = "\"" + dialog->windowTitle() + (box ? "\" (" + box->text() + ')' : QString("\""));
     if (standing_.hasExpired(patience)) fail(name + " did not close.");
-    if (met_) return;
+    if (std::find(met_.begin(), met_.end(), dialog) != met_.end()) return;
     if (!dialog->isActiveWindow()) return dialog->activateWindow();
-    met_ = true;
+    met_.emplace_back(dialog);
     if (!act_) fail(name + " came up.");
-    std::exchange(act_, {})();
+    QTimer::singleShot(0, &watch_, std::exchange(act_, {}));  // apart from this timer, which is to watch meanwhile
 }
 
 namespace {

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 /// Uses the program as a user does, with keys and mouse, and takes pictures of what is seen. What does not come about
 /// in time ends the whole process with a message and exit code 1.
@@ -52,6 +53,8 @@ public:
 
     /// Runs `cause`, which brings up a dialog, and `act` in that dialog, which has to close it.
     void during(const std::function<void()>& cause, const QString& dialog, const std::function<void()>& act);
+    /// From within such an act: what is done in the dialog that comes up after this one.
+    void next(const std::function<void()>& act) { act_ = act; }
 
     /// Writes the next picture, "03-name.png": the front window, over the screen that it stands in front of.
     void picture(const QString& name);
@@ -62,9 +65,9 @@ private:
     QString folder_;
     QString step_;
     int pictures_ = 0;
-    std::function<void()> act_;  ///< in the dialog that is awaited
-    QPointer<QWidget> seen_;     ///< the dialog in front
-    bool met_ = false;           ///< it was handed to its act
+    std::function<void()> act_;           ///< in the dialog that is awaited
+    QPointer<QWidget> seen_;              ///< the dialog in front
+    std::vector<QPointer<QWidget>> met_;  ///< dialogs that were handed to their acts
     QElapsedTimer standing_;
     QElapsedTimer typed_;  ///< letters that follow too soon go on with the search for the ones before
     QTimer watch_;

@@ -1,6 +1,7 @@
 #include "tour/Tour.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -78,6 +79,8 @@ Tour::Tour(ProgramParts& parts, Guide& guide, QString pdf) : parts_(parts), guid
 
 void Tour::take() {
     start();
+    visitReports(guide_);
+    visitLabels(guide_);
     openRegistration();
     renameOrganization();
     addDivision();
@@ -91,12 +94,20 @@ void Tour::take() {
     addSchool();
     previewList();
     saveList();
-    guide_.clickTool("btnStartUp");
-    guide_.waitForScreen("frmStartUp");
+    goToNavigator();
     visitTeams(guide_);
+    visitEquipment(guide_);
+    visitGames(guide_);
+    mergeSecondFile(guide_);
+    visitMaintenance(guide_, QFileInfo(pdf_).absolutePath() + "/Kestrelmoor.zip");  // the last: it changes the league
     guide_.click("cmdReports");
     guide_.waitForScreen("frmReports");
     exit();
+}
+
+void Tour::goToNavigator() {
+    guide_.clickTool("btnStartUp");
+    guide_.waitForScreen("frmStartUp");
 }
 
 void Tour::start() {
@@ -266,6 +277,7 @@ void Tour::previewList() {
     guide_.click("optReportSelection12");
     guide_.require(guide_.control<QRadioButton>("optReportSelection12").isChecked(),
                    "The choice of the league's lists");
+    guide_.click("optReportOptions2");
     guide_.picture("reports");
     guide_.during([this] { guide_.click("cmdPrint"); }, "The preview",
                   [this] {

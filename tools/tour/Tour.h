@@ -13,6 +13,7 @@ public:
 
 private:
     void start();
+    void goToNavigator();
     void openRegistration();
     void renameOrganization();
     void addDivision();

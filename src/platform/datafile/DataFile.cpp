@@ -32,15 +32,15 @@ void inspectDataFile(const QString& path) {
     if (!ours) throw Error(Fault::NotADataFile, tr("The file %1 is not a Kestrelmoor data file.").arg(name));
 }
 
-void checkIntegrity(const QString& path) {
+void checkIntegrity(const QString& path, Check kind) {
     inspectDataFile(path);
     sqlite3* handle = nullptr;
     sqlite3_stmt* check = nullptr;
     QString finding;
+    const char* pragma = kind == Check::Quick ? "PRAGMA quick_check(1)" : "PRAGMA integrity_check(1)";
     if (sqlite3_open_v2(QFile::encodeName(path).constData(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX,
                         nullptr) != SQLITE_OK ||
-        sqlite3_prepare_v2(handle, "PRAGMA integrity_check(1)", -1, &check, nullptr) != SQLITE_OK ||
-        sqlite3_step(check) != SQLITE_ROW)
+        sqlite3_prepare_v2(handle, pragma, -1, &check, nullptr) != SQLITE_OK || sqlite3_step(check) != SQLITE_ROW)
         finding = QString::fromUtf8(sqlite3_errmsg(handle));
     else
         finding = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(check, 0)));

@@ -45,6 +45,9 @@ qint64 Database::execute(const QString& text) const {
     return connection_->changes() - before;
 }
 
+Statement Database::prepare(const QString& sql) const { return Statement(*connection_, sql); }
+qint64 Database::lastKey() const { return connection_->lastKey(); }
+
 QStringList Database::queryPlan(const QString& query) const {
     const dialect::Shape shape = dialect::shapeOf(query);
     Statement plan(*connection_,

@@ -8,6 +8,7 @@
 namespace datafile {
 
 class Connection;
+class Statement;
 
 /// A light handle on an open data file; handles on one path share one connection, which closes with the last of
 /// them. Copies are handles on the same file. Every operation raises Error.
@@ -23,6 +24,11 @@ public:
     std::vector<QString> readList(const QString& query, const QString& column) const;
     /// Runs a statement that gives no rows; the number of rows it changed.
     qint64 execute(const QString& statement) const;
+    /// A statement in the engine's own language, for work over many rows where a cursor takes too long. It must be gone
+    /// before the event loop runs again.
+    Statement prepare(const QString& sql) const;
+    /// The key of the row that was added last.
+    qint64 lastKey() const;
     /// The steps in which the engine would answer the query, for tests ("SEARCH tblDivision USING INDEX ...").
     QStringList queryPlan(const QString& query) const;
 

@@ -146,11 +146,11 @@ Tokens tokensOf(const QString& shape) {
 }
 
 bool isClauseWord(const Token& token) {
-    static constexpr std::array words{"SELECT", "FROM",   "WHERE",  "ORDER", "GROUP",  "HAVING",   "BY",     "AND",
-                                      "OR",     "NOT",    "IN",     "IS",    "NULL",   "AS",       "ON",     "INNER",
-                                      "LEFT",   "RIGHT",  "OUTER",  "JOIN",  "ASC",    "DESC",     "LIKE",   "BETWEEN",
-                                      "INSERT", "INTO",   "UPDATE", "SET",   "DELETE", "DISTINCT", "VALUES", "UNION",
-                                      "LIMIT",  "EXISTS", "CASE",   "WHEN",  "THEN",   "ELSE",     "END",    "ALL"};
+    static constexpr std::array words{
+        "SELECT", "FROM",    "WHERE",  "ORDER", "GROUP",  "HAVING", "BY",     "AND",      "OR",     "NOT",   "IN",
+        "IS",     "NULL",    "AS",     "ON",    "INNER",  "LEFT",   "RIGHT",  "OUTER",    "JOIN",   "ASC",   "DESC",
+        "LIKE",   "BETWEEN", "INSERT", "INTO",  "UPDATE", "SET",    "DELETE", "DISTINCT", "VALUES", "UNION", "LIMIT",
+        "EXISTS", "CASE",    "WHEN",   "THEN",  "ELSE",   "END",    "ALL",    "COLLATE"};
     return token.kind == TokenKind::Word &&
            std::any_of(words.begin(), words.end(), [&](const char* word) { return token.isWord(word); });
 }

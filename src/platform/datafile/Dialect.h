@@ -9,7 +9,8 @@
 ///
 /// Names may stand in brackets, a column behind its table and `!` or `.`; `&` joins texts, reads nothing as ""
 /// and writes a date column as M/D/YYYY; texts stand in double or single quotes (a doubled quote is a quote),
-/// dates between `#`, True and False are 1 and 0.
+/// dates between `#`, True and False are 1 and 0. `ORDER BY [Name] COLLATE Names` puts accented letters beside their
+/// plain letters, as in lists.
 namespace datafile::dialect {
 
 /// A statement whose literals were taken out: each text, number and date is a "?" in `text` and a value, in order,

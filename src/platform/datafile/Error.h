@@ -24,6 +24,10 @@ enum class Fault {
     State             ///< an operation out of turn, such as update without edit
 };
 
+/// Whether the file refused what it was told to do with a row or table, as against not being able to carry out
+/// anything.
+constexpr bool isRefusal(Fault fault) { return fault >= Fault::TooLong; }
+
 /// What every operation of this folder raises: a kind for the program and a text the user can act on.
 class Error : public std::exception {
 public:

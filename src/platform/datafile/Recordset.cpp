@@ -400,6 +400,30 @@ void Recordset::update() {
     rowLoaded_ = false;
 }
 
+void Recordset::addRows(const QStringList& columns, const std::vector<Values>& rows) {
+    addNew();
+    mode_ = EditMode::None;
+    std::vector<const Field*> wanted;
+    for (const QString& column : columns) wanted.push_back(&fields_[static_cast<size_t>(field(column))]);
+    QStringList names;
+    for (const QString& column : columns) names << sql::identifier(column);
+    const QString text = insertSql(names);
+    connection_->write([&] {
+        for (const Values& row : rows) {
+            Statement add(*connection_, text);
+            for (size_t i = 0; i < wanted.size(); ++i) add.bind(converted(row[i], wanted[i]->type, wanted[i]->name));
+            add.run();
+        }
+    });
+}
+
+QString Recordset::insertSql(const QStringList& names) const {
+    const QString table = sql::identifier(query_.table);
+    if (names.isEmpty()) return QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table);
+    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+        .arg(table, names.join(u','), QStringLiteral("?,").repeated(names.size()).chopped(1));
+}
+
 /// The statement that writes the columns set now. Row after row it is the same one.
 const QString& Recordset::writeSql() {
     const bool same = mode_ == written_.mode &&
@@ -413,15 +437,10 @@ const QString& Recordset::writeSql() {
         written_.fields.push_back(field);
         names << sql::identifier(fields_[static_cast<size_t>(field)].name);
     }
-    const QString table = sql::identifier(query_.table);
-    if (mode_ == EditMode::Edit)
-        written_.sql =
-            QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?").arg(table, names.join(QStringLiteral(" = ?, ")));
-    else if (names.isEmpty())
-        written_.sql = QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table);
-    else
-        written_.sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (?%3)")
-                           .arg(table, names.join(u','), QStringLiteral(",?").repeated(names.size() - 1));
+    written_.sql = mode_ == EditMode::Add
+                       ? insertSql(names)
+                       : QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?")
+                             .arg(sql::identifier(query_.table), names.join(QStringLiteral(" = ?, ")));
     return written_.sql;
 }
 

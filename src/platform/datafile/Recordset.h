@@ -45,6 +45,9 @@ public:
     /// Writes the values set since edit() or addNew(): these columns and no others. When it raises, nothing was
     /// written.
     void update();
+    /// Adds many rows of values for these columns, each converted as set() does, in one go. When one does not fit it
+    /// raises, and outside a transaction none was added. The cursor shows the rows after requery().
+    void addRows(const QStringList& columns, const std::vector<Values>& rows);
     void cancelUpdate() { mode_ = EditMode::None; }
     EditMode editMode() const { return mode_; }
     /// Removes the current row for good. The cursor then stands between its neighbours.
@@ -106,6 +109,7 @@ private:
     QString keyQuery(const QString& criteria, const char* ending) const;
     Values keyValues(const Values& criteria = {}) const;
     const QString& writeSql();
+    QString insertSql(const QStringList& names) const;
     void writeRow();
 
     std::shared_ptr<Connection> connection_;

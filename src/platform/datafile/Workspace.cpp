@@ -8,6 +8,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace datafile {
 
@@ -25,6 +28,42 @@ void removeSidecars(const QString& path) {
     const Fault fault = error.full() ? Fault::Full : error.readOnly() ? Fault::ReadOnly : Fault::InputOutput;
     throw Error(fault, error.text());
 }
+
+/// Keeps other processes from writing a data file, by the lock that readers of the engine hold; the file itself stays
+/// as it is.
+class QuietFile {
+public:
+    explicit QuietFile(const QString& path) : id_(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC)) {
+        constexpr off_t pendingByte = 0x40000000;
+        constexpr off_t sharedBytes = pendingByte + 2;
+        constexpr off_t sharedSize = 510;
+        if (id_ < 0) return;  // the copying says why
+        const bool held = lock(F_RDLCK, pendingByte, 1) && lock(F_RDLCK, sharedBytes, sharedSize);
+        lock(F_UNLCK, pendingByte, 1);
+        if (held) return;
+        ::close(id_);
+        throw Error(Fault::Locked, tr("The data file %1 is in use by another program.  Close it there and try again.")
+                                       .arg(QDir::toNativeSeparators(path)));
+    }
+    ~QuietFile() {
+        if (id_ >= 0) ::close(id_);
+    }
+    QuietFile(const QuietFile&) = delete;
+    QuietFile& operator=(const QuietFile&) = delete;
+
+private:
+    /// Held until this file is closed, whatever else opens and closes it. A file system without locks has none to
+    /// respect.
+    bool lock(short kind, off_t from, off_t size) const {
+        struct flock range {};
+        range.l_type = kind;
+        range.l_whence = SEEK_SET;
+        range.l_start = from;
+        range.l_len = size;
+        return ::fcntl(id_, F_OFD_SETLK, &range) == 0 || (errno != EACCES && errno != EAGAIN);
+    }
+    int id_;
+};
 
 }  // namespace
 
@@ -55,6 +94,18 @@ void Workspace::copyDatabase(const QString& from, const QString& to) {
         Transaction quiet(source);
         removeSidecars(to);
         files::copyWhole(from, to);
+    } catch (const files::Error& error) {
+        passOn(error);
+    }
+}
+
+void Workspace::copyUntouched(const QString& from, const QString& to) {
+    try {
+        const QuietFile quiet(from);
+        removeSidecars(to);
+        for (const char* sidecar : {"", "-journal", "-wal"})
+            if (const QString part = from + QLatin1String(sidecar); QFileInfo::exists(part))
+                files::copyWhole(part, to + QLatin1String(sidecar));
     } catch (const files::Error& error) {
         passOn(error);
     }

@@ -18,6 +18,9 @@ public:
     /// Copies a data file, when no other process is writing it, under another name that is renamed when whole.
     /// A copy onto itself is an Error.
     void copyDatabase(const QString& from, const QString& to);
+    /// Copies a file that is not to be touched in any way, with the journal that may lie beside it: opening the copy
+    /// brings it to the state that the file is in. Raises Error(Locked) while another process is writing the file.
+    static void copyUntouched(const QString& from, const QString& to);
     /// Writes the file's content without its free space as the new file `to`, checked and on disk.
     void compactDatabase(const QString& from, const QString& to);
     /// Puts the finished file `made`, from the same folder, in the place of the data file at `path`. The connection

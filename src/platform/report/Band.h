@@ -12,17 +12,32 @@ enum class BandKind { Title, GroupHeader, ColumnHeads, Detail, GroupFooter, Tota
 
 /// A filled cell. Spreadsheets take the value, pages the text.
 struct Cell {
-    QString text{};
+    QString label{};  ///< stands before the text
+    QString text{};   ///< of a check box, "[ ] " or "[x] " and its caption; of a cell to be filled in, with blankRule
     QVariant value{};
     Format format = Format::Text;
     Alignment alignment = Alignment::Left;
     double share = 1;  ///< of the band's width, in proportion to the other cells
     int columns = 1;   ///< how many columns of the list it spans
     TextStyle style{};
+    int fillIn = 0;  ///< rules to write on, in the place of the blankRule
+    bool framed = false;
+    bool gap = false;            ///< white between reports that stand side by side: rules are interrupted
+    std::optional<QRectF> at{};  ///< placed freely, in points from the band's upper left corner
+
+    bool isCheckBox() const { return format == Format::Box; }
+    bool isChecked() const { return isCheckBox() && text.startsWith(QLatin1String("[x]")); }
+    /// The text beside a check box or before a rule to write on; for all other cells their text.
+    QStringView words() const;
+    /// The text for files: the check box as a character, each rule to write on as a line of its own.
+    QString plainText() const;
 };
 
 /// What sets a row of several lines apart from the row above it.
 enum class Separation { None, Space, Rule };
+
+/// A box may go around several bands.
+enum Edge { NoEdge = 0, TopEdge = 1, BottomEdge = 2, SideEdges = 4, CellEdges = 8 };
 
 /// One filled line of a report.
 struct Band {
@@ -34,11 +49,22 @@ struct Band {
     bool keepWithPrevious = false;
     bool startsPage = false;
     Separation above = Separation::None;
+    double space = 0;   ///< points of white above
+    double height = 0;  ///< at least, in points
+    int edges = NoEdge;
+    bool shaded = false;
     std::vector<Cell> cells{};
 
     /// Headers are repeated when their rows run over to the next page.
     bool isHeader() const {
         return kind == BandKind::Title || kind == BandKind::GroupHeader || kind == BandKind::ColumnHeads;
+    }
+    /// Makes a blank band of it that keeps the room of its cells for others.
+    void reset() {
+        std::vector<Cell> room = std::move(cells);
+        *this = Band();
+        cells = std::move(room);
+        cells.clear();
     }
 };
 

@@ -6,6 +6,7 @@
 #include "platform/report/ReportError.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Money.h"
+#include "platform/text/Numbers.h"
 
 namespace report {
 
@@ -21,37 +22,15 @@ int columnOf(const RowSource& source, const QString& name) {
     return column;
 }
 
-/// Dates of the data file are in ISO form; others are as people type them.
-QString dateText(const QVariant& value) {
-    const int type = value.typeId();
-    if (type == QMetaType::QDate || type == QMetaType::QDateTime) return shortDate(value.toDate());
-    const QString text = value.toString();
-    const QDate date = QDate::fromString(text.left(10), Qt::ISODate);
-    if (date.isValid()) return shortDate(date);
-    const auto typed = parseDate(text);
-    return typed ? shortDate(*typed) : text;
-}
-
-QString timeText(const QVariant& value) {
-    const int type = value.typeId();
-    if (type == QMetaType::QTime || type == QMetaType::QDateTime) return formatTime(value.toTime());
-    const auto time = parseTime(value.toString());
-    return time ? formatTime(*time) : value.toString();
-}
-
-QString phoneText(const QString& area, const QString& number) {
-    QString digits;
-    for (const QChar c : number)
-        if (c.isDigit()) digits += c;
-    if (digits.isEmpty()) return {};
-    const QString shaped = digits.size() == 7 ? QString(digits.left(3) % u'-' % digits.mid(3)) : number.trimmed();
-    const QString code = area.trimmed();
-    return code.isEmpty() ? shaped : QString(u'(' % code % QLatin1String(") ") % shaped);
-}
-
-QString joined(const QString& first, QLatin1String separator, const QString& second) {
+/// What is there of both, with the separator between them.
+QString together(const QString& first, const QString& separator, const QString& second) {
     if (first.isEmpty() || second.isEmpty()) return first % second;
     return first % separator % second;
+}
+
+QString yesNoText(const QVariant& value) {
+    if (value.isNull()) return {};
+    return value.toBool() ? QCoreApplication::translate("report", "Yes") : QCoreApplication::translate("report", "No");
 }
 
 }  // namespace
@@ -84,6 +63,27 @@ Field lastFirst(QString lastColumn, QString firstColumn) {
 Field firstLast(QString lastColumn, QString firstColumn) {
     return Field{.columns = {std::move(lastColumn), std::move(firstColumn)}, .format = Format::FirstLast};
 }
+Field joined(QStringList columns, QString separator) {
+    return Field{.columns = std::move(columns), .format = Format::Joined, .pattern = std::move(separator)};
+}
+Field cityLine(QString city, QString state, QString postalCode, QString country) {
+    return Field{.columns = {std::move(city), std::move(state), std::move(postalCode), std::move(country)},
+                 .format = Format::CityLine};
+}
+Field number(QString name, QString pattern) {
+    return Field{.columns = {std::move(name)}, .format = Format::Number, .pattern = std::move(pattern)};
+}
+Field yesNo(QString name) { return Field{.columns = {std::move(name)}, .format = Format::YesNo}; }
+Field box(QString caption, QString name, QString ticked) {
+    return box(std::move(caption), [name = std::move(name), ticked = std::move(ticked)](const Row& row) {
+        return row.text(name).compare(ticked, Qt::CaseInsensitive) == 0;
+    });
+}
+Field box(QString caption, std::function<bool(const Row&)> ticked) {
+    Field field{.format = Format::Box, .prefix = std::move(caption)};
+    if (ticked) field.compute = [ticked = std::move(ticked)](const Row& row) { return QVariant(ticked(row)); };
+    return field;
+}
 Field computed(std::function<QVariant(const Row&)> function, Format format) {
     return Field{.format = format, .compute = std::move(function)};
 }
@@ -92,33 +92,82 @@ BoundField::BoundField(const Field& field, const RowSource& source) : field_(&fi
     for (const QString& name : field.columns) columns_.push_back(columnOf(source, name));
 }
 
+QString BoundField::ofSeveral(const RowSource& source) const {
+    const auto text = [&](size_t index) { return source.value(columns_[index]).toString(); };
+    switch (field_->format) {
+        case Format::Phone: return phoneText(text(0), text(1));
+        case Format::FirstLast: return together(text(1), QStringLiteral(" "), text(0));
+        case Format::LastFirst: return together(text(0), QStringLiteral(", "), text(1));
+        case Format::CityLine: {
+            const QString region = together(text(1), QStringLiteral(" "), text(2));
+            return together(together(text(0), QStringLiteral(", "), region), QStringLiteral("  "), text(3));
+        }
+        default: {
+            QString all;
+            for (size_t index = 0; index < columns_.size(); ++index) all = together(all, field_->pattern, text(index));
+            return all;
+        }
+    }
+}
+
 QString BoundField::evaluate(const RowSource& source, QVariant& value) const {
     QString text;
-    if (columns_.size() == 2) {
-        const QString first = source.value(columns_[0]).toString();
-        const QString second = source.value(columns_[1]).toString();
-        switch (field_->format) {
-            case Format::Phone: text = phoneText(first, second); break;
-            case Format::FirstLast: text = joined(second, QLatin1String(" "), first); break;
-            default: text = joined(first, QLatin1String(", "), second); break;
-        }
+    if (columns_.size() > 1) {
+        text = ofSeveral(source);
         value = text;
-    } else if (!columns_.empty() || field_->compute) {
+    } else if (hasValue()) {
         value = field_->compute ? field_->compute(Row(source)) : source.value(columns_[0]);
-        text = formatted(value, field_->format);
+        text = formatted(value, field_->format, field_->pattern);
     }
+    if (field_->format == Format::Box)
+        return (value.toBool() ? QLatin1String("[x] ") : QLatin1String("[ ] ")) % field_->prefix;
     if (text.isEmpty()) text = field_->whenEmpty;
     return field_->prefix.isEmpty() ? text : QString(field_->prefix % text);
 }
 
-QString formatted(const QVariant& value, Format format) {
+QString phoneText(const QString& area, const QString& number) {
+    QString digits;
+    for (const QChar c : number)
+        if (c.isDigit()) digits += c;
+    if (digits.isEmpty()) return {};
+    const QString shaped = digits.size() == 7 ? QString(digits.left(3) % u'-' % digits.mid(3)) : number.trimmed();
+    const QString code = area.trimmed();
+    return code.isEmpty() ? shaped : QString(u'(' % code % QLatin1String(") ") % shaped);
+}
+
+std::optional<QDate> dateOf(const QVariant& value) {
+    const int type = value.typeId();
+    if (type == QMetaType::QDate || type == QMetaType::QDateTime) return value.toDate();
+    const QString text = value.toString();
+    const QDate stored = QDate::fromString(text.left(10), Qt::ISODate);
+    return stored.isValid() ? stored : parseDate(text);
+}
+
+std::optional<QTime> timeOf(const QVariant& value) {
+    const int type = value.typeId();
+    if (type == QMetaType::QTime || type == QMetaType::QDateTime) return value.toTime();
+    return parseTime(value.toString());
+}
+
+QString formatted(const QVariant& value, Format format, const QString& pattern) {
     switch (format) {
         case Format::Money: {
             const auto amount = Money::parse(value.toString());
             return amount ? amount->text() : value.toString();
         }
-        case Format::Date: return dateText(value);
-        case Format::Time: return timeText(value);
+        case Format::Date: {
+            const auto day = dateOf(value);
+            return day ? shortDate(*day) : value.toString();
+        }
+        case Format::Time: {
+            const auto time = timeOf(value);
+            return time ? formatTime(*time) : value.toString();
+        }
+        case Format::YesNo: return yesNoText(value);
+        case Format::Number: {
+            const auto amount = pattern.isEmpty() ? std::nullopt : Decimal::parse(value.toString());
+            return amount ? formatNumber(*amount, pattern) : value.toString();
+        }
         default: return value.toString();
     }
 }

@@ -12,19 +12,11 @@ constexpr char16_t punctuationStart = 0x2010;
 constexpr char16_t punctuationEnd = 0x2027;
 constexpr size_t glyphCount = latinEnd + (punctuationEnd - punctuationStart);
 
-QStringList families(Typeface typeface) {
-    switch (typeface) {
-        case Typeface::List: return {"Comic Sans MS", "Comic Neue", "Liberation Sans", "DejaVu Sans"};
-        case Typeface::Form: return {"Arial", "Liberation Sans", "DejaVu Sans"};
-        case Typeface::Label: return {"Times New Roman", "Liberation Serif", "DejaVu Serif"};
-    }
-    return {};
-}
-
 QFont makeFont(const TextStyle& style) {
     QFont font(families(style.typeface));
     font.setPixelSize(std::max(1, qRound(style.points * unitsPerPoint)));
     font.setBold(style.bold);
+    font.setItalic(style.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setKerning(false);  // so that shaped lines and glyph runs are equally wide
     return font;
@@ -38,6 +30,15 @@ bool isDrawable(char16_t character) {
 
 }  // namespace
 
+QStringList families(Typeface typeface) {
+    switch (typeface) {
+        case Typeface::List: return {"Comic Sans MS", "Comic Neue", "Liberation Sans", "DejaVu Sans"};
+        case Typeface::Form: return {"Arial", "Liberation Sans", "DejaVu Sans"};
+        case Typeface::Label: return {"Times New Roman", "Liberation Serif", "DejaVu Serif"};
+    }
+    return {};
+}
+
 Face::Face(const TextStyle& style) : font_(makeFont(style)), rawFont_(QRawFont::fromFont(font_)), glyphs_(glyphCount) {
     QString characters(qsizetype(glyphCount), u' ');
     for (size_t slot = 0; slot < glyphCount; ++slot) characters[qsizetype(slot)] = characterAt(slot);
@@ -45,7 +46,7 @@ Face::Face(const TextStyle& style) : font_(makeFont(style)), rawFont_(QRawFont::
     const QVector<QPointF> advances = rawFont_.advancesForGlyphIndexes(indexes, QRawFont::UseDesignMetrics);
     for (size_t slot = 0; slot < glyphCount; ++slot)
         if (isDrawable(characterAt(slot)))
-            glyphs_[slot] = {indexes[qsizetype(slot)], float(advances[qsizetype(slot)].x())};
+            glyphs_[slot] = {indexes[qsizetype(slot)], qRound(advances[qsizetype(slot)].x())};
     ascent_ = rawFont_.ascent();
     descent_ = rawFont_.descent();
 }
@@ -71,11 +72,12 @@ double Face::plainWidth(QStringView text) const {
 }
 
 void Face::appendPlain(QStringView text, double x, double y, QVector<quint32>& glyphs, QVector<QPointF>& pens) const {
+    x = qRound(x);
     for (const QChar character : text) {
         const Glyph* found = glyph(character);
         if (!found) continue;
         glyphs.append(found->index);
-        pens.append(QPointF(qRound(x), y));
+        pens.append(QPointF(x, y));
         x += found->advance;
     }
 }

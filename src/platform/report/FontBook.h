@@ -13,6 +13,9 @@ namespace report {
 constexpr double unitsPerPoint = 10;
 constexpr int unitsPerInch = 720;
 
+/// The families of a typeface, the one that is meant first, then those that stand in for it.
+QStringList families(Typeface typeface);
+
 /// A font at one size with the glyphs of plain Latin text. All lengths in layout units.
 class Face {
 public:
@@ -26,12 +29,13 @@ public:
     const QRawFont& rawFont() const { return rawFont_; }
     double ascent() const { return ascent_; }
     double descent() const { return descent_; }
+    double capHeight() const { return rawFont_.capHeight(); }
     double lineHeight() const { return ascent_ + descent_; }
 
 private:
     struct Glyph {
         quint32 index = 0;
-        float advance = 0;
+        int advance = 0;  ///< in whole units, so that a pair of letters is always equally far apart: files get smaller
     };
     const Glyph* glyph(QChar character) const;
 

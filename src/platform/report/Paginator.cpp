@@ -1,5 +1,6 @@
 #include "platform/report/Paginator.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 namespace report {
@@ -8,6 +9,7 @@ namespace {
 
 constexpr double footHeight = 22 * unitsPerPoint;
 constexpr double smallestLabelText = 0.5;
+constexpr double labelLinesCloser = 3 * unitsPerPoint;  ///< than the rows of a list
 
 QRectF inUnits(const QRectF& points) {
     return {points.x() * unitsPerPoint, points.y() * unitsPerPoint, points.width() * unitsPerPoint,
@@ -101,22 +103,39 @@ void Paginator::placeBlock() {
     }
     dropHeaders(block_.front().level);
     if (y_ > freshY_ && (block_.front().startsPage || y_ + height > body_.bottom())) startPage();
-    for (LaidBand& band : laid) place(std::move(band));
+    for (size_t index = 0; index < laid.size(); ++index) place(std::move(laid[index]), block_[index]);
 }
 
 /// Appends one band at the foot of what the page holds, on a new page where it does not fit.
-void Paginator::place(LaidBand band) {
-    dropHeaders(band.level);
-    if (y_ + band.height > body_.bottom() && y_ > freshY_) startPage();
-    if (y_ + band.height > body_.bottom()) {
-        placeSplit(std::move(band));
+void Paginator::place(LaidBand laid, const Band& band) {
+    dropHeaders(laid.level);
+    if (y_ + laid.height > body_.bottom() && y_ > freshY_) startPage();
+    if (y_ + laid.height > body_.bottom()) {
+        placeSplit(std::move(laid));
         return;
     }
-    append(current_, band.piece, y_);
-    y_ += band.height;
-    if (!band.header) return;
-    if (y_ - band.height <= freshY_) freshY_ = y_;
-    headers_.push_back(std::move(band));
+    append(current_, laid.piece, y_);
+    y_ += laid.height;
+    if (!laid.header) return;
+    if (y_ - laid.height <= freshY_) freshY_ = y_;
+    hold(std::move(laid), band);
+}
+
+void Paginator::hold(LaidBand laid, const Band& band) {
+    headers_.push_back({std::move(laid), {}});
+    if (band.kind != BandKind::GroupHeader) return;
+    const auto named =
+        std::find_if(band.cells.begin(), band.cells.end(), [](const Cell& cell) { return !cell.text.isEmpty(); });
+    if (named == band.cells.end()) return;
+    Band& continued = headers_.back().continued.emplace(band);
+    QString& text = continued.cells[size_t(named - band.cells.begin())].text;
+    text = QCoreApplication::translate("report", "%1 (continued)").arg(text);
+}
+
+const LaidBand& Paginator::repeated(Header& header) {
+    if (header.continued) header.laid = laidOut(*header.continued);
+    header.continued.reset();
+    return header.laid;
 }
 
 /// A band higher than a page goes on from page to page, line by line.
@@ -154,7 +173,7 @@ void Paginator::placeLabel() {
         used = 0;
         for (const Band& band : block_) {
             laid.push_back(layOut(band, 0, (sheet.width - 2 * sheet.inset) * unitsPerPoint, fonts_, scale));
-            used += laid.back().height;
+            used += laid.back().height - labelLinesCloser;
         }
         if (used <= height) break;
     }
@@ -167,23 +186,23 @@ void Paginator::placeLabel() {
     for (LaidBand& band : laid) {
         for (TextItem& item : band.piece.items) item.x += float(x);
         append(current_, band.piece, y);
-        y += band.height;
+        y += band.height - labelLinesCloser;
     }
     ++slot_;
 }
 
 void Paginator::dropHeaders(int level) {
-    while (!headers_.empty() && headers_.back().level >= level) headers_.pop_back();
+    while (!headers_.empty() && headers_.back().laid.level >= level) headers_.pop_back();
 }
 
 void Paginator::startPage() {
     finishPage();
     double height = 0;
-    for (const LaidBand& header : headers_) height += header.height;
+    for (Header& header : headers_) height += repeated(header).height;
     if (height < body_.height() / 2) {  // else they would leave no room for what they head
-        for (const LaidBand& header : headers_) {
-            append(current_, header.piece, y_);
-            y_ += header.height;
+        for (const Header& header : headers_) {
+            append(current_, header.laid.piece, y_);
+            y_ += header.laid.height;
         }
     }
     freshY_ = y_;

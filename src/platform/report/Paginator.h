@@ -11,8 +11,8 @@ namespace report {
 /// Turns bands into pages of one paper. Pages are laid out in order as they are asked for and kept; a report of
 /// 100,000 lines takes some 30 MB. What the bands raise goes through.
 ///
-/// A page break repeats the headers that still hold. A header stays with the first row under it, a footer with the row
-/// above it, the lines of one row together, as far as one page can hold them.
+/// A page break repeats the headers that still hold, those of groups marked as continued. A header stays with the first
+/// row under it, a footer with the row above it, the lines of one row together, as far as one page can hold them.
 class Paginator {
 public:
     Paginator(std::unique_ptr<BandSource> bands, const QPageLayout& paper, QString footer,
@@ -39,11 +39,18 @@ private:
     bool readBlock();
     void placeBlock();
     void placeLabel();
-    void place(LaidBand band);
+    void place(LaidBand laid, const Band& band);
     void placeSplit(LaidBand band);
     void dropHeaders(int level);
     void startPage();
     void finishPage();
+    /// A header that holds, with what stands on the pages that its rows go on to.
+    struct Header {
+        LaidBand laid;
+        std::optional<Band> continued;  ///< laid out when it is first needed
+    };
+    void hold(LaidBand laid, const Band& band);
+    const LaidBand& repeated(Header& header);
     LaidBand laidOut(const Band& band) { return layOut(band, body_.left(), body_.width(), fonts_); }
 
     std::unique_ptr<BandSource> bands_;
@@ -61,7 +68,7 @@ private:
     int slot_ = 0;             ///< the next label of the sheet
     std::vector<Band> block_;  ///< bands that no page break may part
     std::optional<Band> ahead_;
-    std::vector<LaidBand> headers_;  ///< those that hold, outermost first
+    std::vector<Header> headers_;  ///< those that hold, outermost first
     bool complete_ = false;
 };
 

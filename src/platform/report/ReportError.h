@@ -17,4 +17,10 @@ private:
     QByteArray bytes_;
 };
 
+/// There is no row at all, so there is nothing to write.
+class NoDataError final : public ReportError {
+public:
+    NoDataError();
+};
+
 }  // namespace report

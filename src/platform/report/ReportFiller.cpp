@@ -2,78 +2,97 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <numeric>
 
 #include "platform/report/ReportError.h"
+#include "platform/report/SubReports.h"
 
 namespace report {
 
 namespace {
 
-constexpr Money one{100};
+constexpr double gapShare = 0.03;  ///< of the width of a row, between rows that stand side by side
 
-Alignment alignmentOf(const Column& column) {
-    if (column.alignment) return *column.alignment;
-    return column.field.format == Format::Money ? Alignment::Right : Alignment::Left;
-}
+QString tr(const char* text) { return QCoreApplication::translate("report", text); }
 
-QString totalText(const Column& column, Money sum) {
-    if (column.total == Total::Sum && column.field.format == Format::Money) return sum.text();
-    return sum.text(sum.cents % one.cents == 0 ? QStringLiteral("0") : QStringLiteral("0.00"));
+bool sameKey(const QVariant& left, const QVariant& right) {
+    if (left.typeId() == QMetaType::QString && right.typeId() == QMetaType::QString)
+        return left.toString().compare(right.toString(), Qt::CaseInsensitive) == 0;
+    return left == right;
 }
 
 }  // namespace
 
 ReportFiller::ReportFiller(ReportDefinition definition, RowSourceFactory rows)
-    : ReportFiller(std::make_shared<const ReportDefinition>(std::move(definition)), std::move(rows), Place{}) {}
+    : ReportFiller(std::make_shared<const ReportDefinition>(std::move(definition)), std::move(rows),
+                   Place{.keyed = std::make_shared<KeyedRows>()}) {}
 
-ReportFiller::ReportFiller(std::shared_ptr<const ReportDefinition> definition, RowSourceFactory rows,
-                           const Place& place)
+ReportFiller::ReportFiller(std::shared_ptr<const ReportDefinition> definition, RowSourceFactory rows, Place place)
     : definition_(std::move(definition)),
       open_(std::move(rows)),
-      place_(place),
-      detailLevel_(place.level + int(definition_->groups.size()) + 1),
-      source_(open_(Query{definition_->query.text, definition_->query.values + place.values})) {
+      place_(std::move(place)),
+      totals_(definition_->columns, definition_->groups.size()),
+      detailLevel_(place_.level + 2 * int(definition_->groups.size()) + 1),
+      source_(openRows()) {
     bind();
     onRow_ = hasRows_ = source_->next();
-    if (hasRows_ || place_.indent == 0) addTitle();
+    if (place_.indent == 0) {
+        addTitle();
+    } else if (hasRows_ || !definition_->whenEmpty.isEmpty()) {
+        if (!definition_->title.isEmpty()) addSubTitle(definition_->title);
+        if (!hasRows_)
+            add(BandKind::Detail, detailLevel_).cells = {
+                {.text = definition_->whenEmpty, .style = style(false, 0, true)}};
+    }
 }
 
 ReportFiller::~ReportFiller() = default;
 
+std::unique_ptr<RowSource> ReportFiller::openRows() const {
+    if (definition_->query.text.isEmpty()) return blankRow();
+    if (!definition_->keys.isEmpty()) return place_.keyed->rowsOf(*definition_, place_.values, open_);
+    return open_(Query{definition_->query.text, definition_->query.values + place_.values});
+}
+
 void ReportFiller::bind() {
     columns_ = bound(definition_->columns);
-    for (const Line& line : definition_->lines) lines_.push_back(bound(line));
+    lines_ = bound(definition_->lines);
+    parts_ = bound(definition_->subReports);
     for (const Group& group : definition_->groups)
-        groups_.push_back(GroupState{BoundField(column(group.key), *source_), {}, bound(group.header), {}});
-    for (const ReportDefinition& part : definition_->subReports) {
-        std::vector<BoundField> keys;
-        for (const QString& name : part.boundTo) keys.emplace_back(column(name), *source_);
-        subReportKeys_.push_back(std::move(keys));
-    }
-    sums_.assign(groups_.size() + 1, Sums(columns_.size()));
+        groups_.push_back(GroupState{BoundField(column(group.key), *source_), bound(group.header), bound(group.lines),
+                                     bound(group.parts), bound(group.footerParts)});
 }
 
 ReportFiller::BoundLine ReportFiller::bound(const Line& line) const {
-    BoundLine result;
-    for (const Column& column : line) result.push_back({&column, BoundField(column.field, *source_)});
+    BoundLine result{&line, {}};
+    for (const Column& column : line) result.cells.push_back({&column, BoundField(column.field, *source_)});
+    return result;
+}
+
+std::vector<ReportFiller::BoundLine> ReportFiller::bound(const std::vector<Line>& lines) const {
+    std::vector<BoundLine> result;
+    for (const Line& line : lines) result.push_back(bound(line));
+    return result;
+}
+
+ReportFiller::BoundParts ReportFiller::bound(const std::vector<ReportDefinition>& parts) const {
+    BoundParts result{&parts, {}};
+    for (const ReportDefinition& part : parts) {
+        auto& keys = result.keys.emplace_back();
+        for (const QString& name : part.boundTo) keys.emplace_back(column(name), *source_);
+    }
     return result;
 }
 
 bool ReportFiller::next(Band& band) {
-    while (ready_.empty()) {
-        if (!subReports_.empty()) {
-            if (subReports_.front()->next(band)) return true;
-            subReports_.pop_front();
-        } else if (onRow_) {
+    while (!ready_.take(band)) {
+        if (onRow_)
             fillRow();
-        } else if (!closed_) {
+        else if (!closed_)
             close();
-        } else {
+        else
             return false;
-        }
     }
-    band = std::move(ready_.front());
-    ready_.pop_front();
     return true;
 }
 
@@ -86,11 +105,14 @@ void ReportFiller::fillRow() {
         addGroupHeaders(changed);
         addColumnHeads();
     }
+    const size_t row = ready_.size();
     addDetail();
     if (!firstRow_ && start < ready_.size()) ready_[start].startsPage = startsPage(changed);
     firstRow_ = false;
-    openSubReports();
+    takeValues(parts_);
+    addParts(parts_);
     onRow_ = source_->next();
+    if (definition_->across > 1 && !columns_.cells.empty()) addRowsAcross(row);
 }
 
 bool ReportFiller::startsPage(size_t fromGroup) const {
@@ -106,155 +128,217 @@ void ReportFiller::close() {
     if (!definition_->totals) return;
     QVariant value;
     addTotals(BandKind::Totals, place_.level, BoundField(*definition_->totals, *source_).evaluate(*source_, value),
-              sums_.back());
+              groups_.size());
 }
 
-/// The outermost group whose key differs from the row before, or the number of groups. Takes the new keys over.
-size_t ReportFiller::firstChangedGroup() {
-    size_t changed = groups_.size();
-    for (size_t group = groups_.size(); group-- > 0;) {
-        QVariant value = groups_[group].key.stored(*source_);
-        if (firstRow_ || value != groups_[group].value) changed = group;
-        groups_[group].value = std::move(value);
-    }
-    return changed;
+/// The outermost group whose key differs from the row before, or the number of groups.
+size_t ReportFiller::firstChangedGroup() const {
+    for (size_t group = 0; group < groups_.size(); ++group)
+        if (firstRow_ || !sameKey(groups_[group].key.stored(*source_), groups_[group].value)) return group;
+    return groups_.size();
 }
 
 Band& ReportFiller::add(BandKind kind, int level) {
-    Band& band = ready_.emplace_back();
+    Band& band = ready_.add();
     band.kind = kind;
     band.level = level;
     band.indent = place_.indent;
     return band;
 }
 
-TextStyle ReportFiller::style(bool bold, double larger) const {
-    return {definition_->typeface, definition_->points + larger, bold};
+TextStyle ReportFiller::style(bool bold, double larger, bool italic) const {
+    return {definition_->typeface, definition_->points + larger, bold, italic};
 }
 
 void ReportFiller::addTitle() {
     if (definition_->title.isEmpty()) return;
-    if (place_.indent > 0) {
-        add(BandKind::GroupHeader, place_.level).cells = {{.text = definition_->title, .style = style(true)}};
-        return;
-    }
     add(BandKind::Title, -2).cells = {
         {.text = definition_->organization, .alignment = Alignment::Center, .style = style(true, 3)}};
     Band& band = add(BandKind::Title, -1);
     band.keepWithPrevious = true;
-    const QString asOf = definition_->asOf.isEmpty()
-                             ? QString()
-                             : QString(QCoreApplication::translate("report", "As Of:") % u' ' % definition_->asOf);
+    const QString asOf = definition_->asOf.isEmpty() ? QString() : QString(tr("As Of:") % u' ' % definition_->asOf);
     band.cells = {{.share = 1, .style = style(false)},
                   {.text = definition_->title, .alignment = Alignment::Center, .share = 3, .style = style(true, 7)},
                   {.text = asOf, .alignment = Alignment::Right, .share = 1, .style = style(false)}};
 }
 
+void ReportFiller::addSubTitle(const QString& title) {
+    const int columns = std::max(1, int(definition_->columns.size()));
+    add(BandKind::GroupHeader, place_.level).cells = {{.text = title, .columns = columns, .style = style(true)}};
+}
+
+void ReportFiller::fillCell(Cell& cell, const BoundColumn& bound, bool bold, double larger) const {
+    const Column& column = *bound.column;
+    cell.text = bound.field.evaluate(*source_, cell.value);
+    cell.format = column.field.format;
+    cell.alignment = alignmentOf(column);
+    cell.share = column.share;
+    cell.style = style(bold || column.bold, larger + column.larger, column.italic);
+    cell.framed = column.framed;
+    if (column.at) cell.at = column.at;
+    if (column.fillIn == 0 || !cell.value.toString().isEmpty()) return;
+    cell.fillIn = column.fillIn;
+    if (column.field.format == Format::Phone) cell.text += QLatin1String("(    ) ");
+    cell.text += blankRule;
+}
+
 void ReportFiller::addCells(Band& band, const BoundLine& line, bool bold, double larger) const {
-    band.cells.reserve(line.size());
-    for (const BoundColumn& column : line) {
-        Cell& cell = band.cells.emplace_back();
-        cell.text = column.field.evaluate(*source_, cell.value);
-        cell.format = column.column->field.format;
-        cell.alignment = alignmentOf(*column.column);
-        cell.share = column.column->share;
-        cell.style = style(bold || column.column->bold, larger);
-    }
+    band.cells.reserve(line.cells.size());
+    for (const BoundColumn& column : line.cells) fillCell(band.cells.emplace_back(), column, bold, larger);
 }
 
 void ReportFiller::addGroupHeaders(size_t fromGroup) {
     for (size_t group = fromGroup; group < groups_.size(); ++group) {
+        GroupState& state = groups_[group];
         const Group& definition = definition_->groups[group];
+        const int level = place_.level + 2 * int(group);
+        state.value = state.key.stored(*source_);
         if (definition.footer) {
             QVariant value;
-            groups_[group].footer = BoundField(*definition.footer, *source_).evaluate(*source_, value);
+            state.footer = BoundField(*definition.footer, *source_).evaluate(*source_, value);
         }
-        if (groups_[group].header.empty()) continue;
-        addCells(add(BandKind::GroupHeader, place_.level + int(group)), groups_[group].header, true, 1);
+        takeValues(state.parts);
+        takeValues(state.footerParts);
+        if (!definition.header.empty()) {
+            Band& band = add(BandKind::GroupHeader, level);
+            band.shaded = level == 0;
+            addCells(band, state.header, true, 1);
+        }
+        addLines(state.lines, level + 1);
+        addParts(state.parts);
     }
+}
+
+/// The white between rows side by side, as a share beside those of the columns.
+double ReportFiller::gapBetweenRows() const {
+    const Line& line = definition_->columns;
+    return gapShare * std::accumulate(line.begin(), line.end(), 0.0,
+                                      [](double sum, const Column& column) { return sum + column.share; });
 }
 
 void ReportFiller::addColumnHeads() {
     const auto hasCaption = [](const Column& column) { return !column.caption.isEmpty(); };
     if (std::none_of(definition_->columns.begin(), definition_->columns.end(), hasCaption)) return;
     Band& band = add(BandKind::ColumnHeads, detailLevel_ - 1);
-    for (const Column& column : definition_->columns)
-        band.cells.push_back(
-            {.text = column.caption, .alignment = alignmentOf(column), .share = column.share, .style = style(true)});
+    for (int row = 0; row < definition_->across; ++row) {
+        if (row > 0) band.cells.push_back(gapCell(gapBetweenRows()));
+        for (const Column& column : definition_->columns)
+            band.cells.push_back({.text = column.caption,
+                                  .alignment = alignmentOf(column),
+                                  .share = column.share,
+                                  .style = style(true, column.larger)});
+    }
 }
 
 Separation ReportFiller::separation() const {
-    if (definition_->labels) return Separation::None;
-    if (columns_.empty()) return lines_.size() > 1 ? Separation::Rule : Separation::None;
+    if (definition_->labels || definition_->rowStartsPage || definition_->query.text.isEmpty()) return Separation::None;
+    if (columns_.cells.empty()) return lines_.size() > 1 ? Separation::Rule : Separation::None;
     return definition_->subReports.empty() ? Separation::None : Separation::Space;
 }
 
 void ReportFiller::addDetail() {
-    bool first = true;
-    const auto addLine = [&](const BoundLine& line) {
+    const size_t start = ready_.size();
+    if (!columns_.cells.empty()) {
         Band& band = add(BandKind::Detail, detailLevel_);
-        band.keepWithPrevious = !first;
-        if (first) band.above = separation();
-        addCells(band, line, false);
-        first = false;
-    };
-    if (!columns_.empty()) addLine(columns_);
-    for (size_t index = 0; index < columns_.size(); ++index) {
-        const Total total = columns_[index].column->total;
-        if (total == Total::None) continue;
-        const Money amount = total == Total::Count ? one : Money::orZero(ready_.back().cells[index].value.toString());
-        for (Sums& sums : sums_) sums[index] += amount;
+        addCells(band, columns_, false);
+        totals_.add(band, 0);
     }
-    for (const BoundLine& line : lines_) addLine(line);
+    addLines(lines_, detailLevel_);
+    for (size_t index = start; index < ready_.size(); ++index) ready_[index].keepWithPrevious = index > start;
+    if (start < ready_.size()) ready_[start].above = separation();
 }
 
-void ReportFiller::openSubReports() {
-    for (size_t index = 0; index < subReportKeys_.size(); ++index) {
-        Place place{detailLevel_ + 1, place_.indent + 1, {}};
-        for (const BoundField& key : subReportKeys_[index]) place.values.push_back(key.stored(*source_));
-        std::shared_ptr<const ReportDefinition> part(definition_, &definition_->subReports[index]);
-        subReports_.emplace_back(new ReportFiller(std::move(part), open_, place));
+/// Puts the rows that follow in the same group beside the one that the band holds.
+void ReportFiller::addRowsAcross(size_t band) {
+    for (int row = 1; row < definition_->across; ++row) {
+        std::vector<Cell>& cells = ready_[band].cells;
+        cells.push_back(gapCell(gapBetweenRows()));
+        const size_t start = cells.size();
+        const bool goesOn = onRow_ && firstChangedGroup() == groups_.size();
+        if (goesOn) {
+            addCells(ready_[band], columns_, false);
+            totals_.add(ready_[band], start);
+            onRow_ = source_->next();
+        } else {
+            for (const Column& column : definition_->columns) cells.push_back({.share = column.share});
+        }
     }
+}
+
+void ReportFiller::addLines(const std::vector<BoundLine>& lines, int level) {
+    bool belowBox = false;
+    for (const BoundLine& line : lines)
+        if (addLine(line, level, belowBox)) belowBox = line.line->frame == Line::Frame::Box;
+}
+
+/// False when the line was left out.
+bool ReportFiller::addLine(const BoundLine& line, int level, bool belowBox) {
+    const Line& look = *line.line;
+    const bool heading = look.frame == Line::Frame::Heading;
+    Band& band = add(BandKind::Detail, level);
+    bool filled = false;
+    band.cells.reserve(line.cells.size());
+    for (const BoundColumn& column : line.cells) {
+        Cell& cell = band.cells.emplace_back();
+        fillCell(cell, column, heading, 0);
+        cell.label = column.column->caption;
+        filled = filled || (column.field.hasValue() && !cell.value.toString().isEmpty());
+    }
+    if (look.onlyFilled && !filled) {
+        ready_.dropLast();
+        return false;
+    }
+    band.keepWithPrevious = true;
+    band.space = look.space;
+    band.height = look.height;
+    band.shaded = heading;
+    if (look.rule) band.edges |= TopEdge;
+    if (look.frame == Line::Frame::Grid) band.edges |= TopEdge | BottomEdge | SideEdges | CellEdges;
+    if (look.frame == Line::Frame::Box) {
+        const bool joins = belowBox && look.space == 0;
+        band.edges |= joins ? BottomEdge | SideEdges : TopEdge | BottomEdge | SideEdges;
+        if (joins) ready_[ready_.size() - 2].edges &= ~BottomEdge;
+    }
+    return true;
+}
+
+/// The values that choose the rows of sub-reports, from the current row.
+void ReportFiller::takeValues(BoundParts& parts) const {
+    parts.values.clear();
+    for (const auto& keys : parts.keys) {
+        QVariantList& values = parts.values.emplace_back();
+        for (const BoundField& key : keys) values.push_back(key.stored(*source_));
+    }
+}
+
+void ReportFiller::addParts(const BoundParts& parts) {
+    std::unique_ptr<BesideSource> beside;
+    if (definition_->subReportsSideBySide && parts.values.size() > 1) beside = std::make_unique<BesideSource>();
+    for (size_t index = 0; index < parts.values.size(); ++index) {
+        std::shared_ptr<const ReportDefinition> part(definition_, &(*parts.parts)[index]);
+        std::unique_ptr<BandSource> source(new ReportFiller(
+            part, open_, Place{detailLevel_ + 1, place_.indent + 1, parts.values[index], place_.keyed}));
+        if (beside)
+            beside->add(std::move(source), *part);
+        else
+            ready_.add(std::move(source));
+    }
+    if (beside) ready_.add(std::move(beside));
 }
 
 void ReportFiller::addFooters(size_t fromGroup) {
     for (size_t group = groups_.size(); group-- > fromGroup;) {
+        addParts(groups_[group].footerParts);
         if (definition_->groups[group].footer)
-            addTotals(BandKind::GroupFooter, detailLevel_, groups_[group].footer, sums_[group]);
-        std::fill(sums_[group].begin(), sums_[group].end(), Money{});
+            addTotals(BandKind::GroupFooter, detailLevel_, groups_[group].footer, group);
+        totals_.clear(group);
     }
 }
 
-/// The caption spans the columns before the first total; a total in the first column follows its caption.
-void ReportFiller::addTotals(BandKind kind, int level, const QString& caption, const Sums& sums) {
+void ReportFiller::addTotals(BandKind kind, int level, const QString& caption, size_t group) {
     Band& band = add(kind, level);
     band.keepWithPrevious = true;
-    Cell lead{.text = caption, .share = 0, .columns = 0, .style = style(true)};
-    bool inLead = true;
-    for (size_t index = 0; index < columns_.size(); ++index) {
-        const Column& column = *columns_[index].column;
-        const bool hasTotal = column.total != Total::None;
-        if (inLead && (!hasTotal || index == 0)) {
-            lead.share += column.share;
-            ++lead.columns;
-            if (hasTotal) lead.text += QString(u' ' % totalText(column, sums[index]));
-            continue;
-        }
-        if (inLead) band.cells.push_back(lead);
-        inLead = false;
-        Cell& cell = band.cells.emplace_back();
-        cell.alignment = alignmentOf(column);
-        cell.share = column.share;
-        cell.style = style(true);
-        if (!hasTotal) continue;
-        cell.format = column.field.format;
-        cell.value = double(sums[index].cents) / one.cents;
-        cell.text = totalText(column, sums[index]);
-    }
-    if (inLead) {
-        lead.share = std::max(lead.share, 1.0);
-        band.cells.push_back(lead);
-    }
+    totals_.fill(band, group, caption, style(true));
 }
 
 }  // namespace report

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <deque>
-#include <memory>
-
-#include "platform/report/Band.h"
-#include "platform/text/Money.h"
+#include "platform/report/BandQueue.h"
+#include "platform/report/Totals.h"
 
 namespace report {
+
+class KeyedRows;
 
 /// Fills a definition with the rows of its query and hands out the bands as they are asked for. Reads one row ahead;
 /// holds no more than the bands of one row.
@@ -20,56 +19,77 @@ public:
     bool next(Band& band) override;
 
 private:
-    /// Where a sub-report stands: its levels follow its parent's, its query takes values of the parent's row.
+    /// Where a sub-report stands: its levels follow its parent's, its rows are chosen by values of the parent's row.
     struct Place {
         int level = 0;
         int indent = 0;
         QVariantList values{};
+        std::shared_ptr<KeyedRows> keyed{};  ///< of the whole report
     };
     struct BoundColumn {
         const Column* column;
         BoundField field;
     };
-    using BoundLine = std::vector<BoundColumn>;
+    struct BoundLine {
+        const Line* line;
+        std::vector<BoundColumn> cells;
+    };
+    /// Sub-reports that stand together, with the values that choose their rows.
+    struct BoundParts {
+        const std::vector<ReportDefinition>* parts;
+        std::vector<std::vector<BoundField>> keys;
+        std::vector<QVariantList> values{};
+    };
     struct GroupState {
         BoundField key;
-        QVariant value;
         BoundLine header;
-        QString footer;  ///< its caption, taken from the group's first row
+        std::vector<BoundLine> lines;
+        BoundParts parts;
+        BoundParts footerParts;
+        QVariant value{};
+        QString footer{};  ///< its caption, taken from the group's first row
     };
-    using Sums = std::vector<Money>;  ///< one a column; counts are whole dollars
 
-    ReportFiller(std::shared_ptr<const ReportDefinition> definition, RowSourceFactory rows, const Place& place);
+    ReportFiller(std::shared_ptr<const ReportDefinition> definition, RowSourceFactory rows, Place place);
+    std::unique_ptr<RowSource> openRows() const;
     void bind();
     BoundLine bound(const Line& line) const;
+    std::vector<BoundLine> bound(const std::vector<Line>& lines) const;
+    BoundParts bound(const std::vector<ReportDefinition>& parts) const;
     void fillRow();
     void close();
-    size_t firstChangedGroup();
+    size_t firstChangedGroup() const;
     bool startsPage(size_t fromGroup) const;
     Separation separation() const;
     void addTitle();
+    void addSubTitle(const QString& title);
     void addGroupHeaders(size_t fromGroup);
     void addColumnHeads();
     void addDetail();
-    void openSubReports();
+    void addRowsAcross(size_t band);
+    void takeValues(BoundParts& parts) const;
+    void addParts(const BoundParts& parts);
     void addFooters(size_t fromGroup);
-    void addTotals(BandKind kind, int level, const QString& caption, const Sums& sums);
+    void addTotals(BandKind kind, int level, const QString& caption, size_t group);
     Band& add(BandKind kind, int level);
     void addCells(Band& band, const BoundLine& line, bool bold, double larger = 0) const;
-    TextStyle style(bool bold, double larger = 0) const;
+    void fillCell(Cell& cell, const BoundColumn& column, bool bold, double larger) const;
+    void addLines(const std::vector<BoundLine>& lines, int level);
+    bool addLine(const BoundLine& line, int level, bool belowBox);
+    TextStyle style(bool bold, double larger = 0, bool italic = false) const;
+    double gapBetweenRows() const;
 
     std::shared_ptr<const ReportDefinition> definition_;
     RowSourceFactory open_;
     Place place_;
+    Totals totals_;  ///< of the groups, and of the whole report as one more group
     int detailLevel_;
     std::unique_ptr<RowSource> source_;
     std::vector<GroupState> groups_;
     BoundLine columns_;
     std::vector<BoundLine> lines_;
-    std::vector<std::vector<BoundField>> subReportKeys_;
-    std::vector<Sums> sums_;  ///< group after group, the whole report last
-    std::deque<Band> ready_;
-    std::deque<std::unique_ptr<ReportFiller>> subReports_;  ///< those of the row filled last that are still to come
+    BoundParts parts_;
+    BandQueue ready_;
     bool hasRows_ = false;
     bool onRow_ = false;  ///< the source stands on a row that is still to be filled
     bool firstRow_ = true;

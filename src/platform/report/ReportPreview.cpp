@@ -16,6 +16,8 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include "platform/report/RunProgress.h"
+
 namespace report {
 
 namespace {
@@ -217,7 +219,8 @@ void ReportPreview::printPages() {
         dialog.setObjectName("printDialog");
         dialog.setOption(QAbstractPrintDialog::PrintPageRange);
         if (dialogs_.showModal(dialog) != QDialog::Accepted) return;
-        print(printer_, report_);
+        RunProgress progress(this, report_.definition.title, RunProgress::Counts::Pages);
+        print(printer_, report_, std::ref(progress));
     });
 }
 

@@ -19,6 +19,7 @@ public:
     virtual ~RowSource() = default;
     /// Position of a column by its name, without regard to case; -1 where the query has no such column.
     virtual int column(const QString& name) const = 0;
+    virtual int columnCount() const = 0;
     /// Steps to the next row, to the first one on the first call. False behind the last row.
     virtual bool next() = 0;
     /// A value of the row stepped to.

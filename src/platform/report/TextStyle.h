@@ -9,6 +9,7 @@ struct TextStyle {
     Typeface typeface = Typeface::List;
     double points = 9;
     bool bold = false;
+    bool italic = false;
     bool operator==(const TextStyle&) const = default;
 };
 

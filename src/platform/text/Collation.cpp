@@ -164,3 +164,26 @@ void placeAccented(std::vector<QString>& entries) {
         end = place;
     }
 }
+
+int compareNames(std::string_view left, std::string_view right) {
+    const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + (u'a' - u'A')) : c; };
+    const size_t shorter = std::min(left.size(), right.size());
+    for (size_t at = 0;; ++at) {
+        if (at == shorter) return left.size() < right.size() ? -1 : int(left.size() > right.size());
+        const auto leftByte = static_cast<unsigned char>(left[at]);
+        const auto rightByte = static_cast<unsigned char>(right[at]);
+        if ((leftByte | rightByte) >= 0x80) break;
+        if (const int difference = lower(leftByte) - lower(rightByte)) return difference;
+    }
+    const auto letters = [](std::string_view text) {
+        return plain(QString::fromUtf8(text.data(), qsizetype(text.size())));
+    };
+    const QString leftPlain = letters(left);
+    const QString rightPlain = letters(right);
+    const auto [leftAt, rightAt] =
+        std::mismatch(leftPlain.begin(), leftPlain.end(), rightPlain.begin(), rightPlain.end(),
+                      [&](QChar a, QChar b) { return lower(a.unicode()) == lower(b.unicode()); });
+    if (leftAt == leftPlain.end() || rightAt == rightPlain.end())
+        return int(rightAt == rightPlain.end()) - int(leftAt == leftPlain.end());
+    return lower(leftAt->unicode()) - lower(rightAt->unicode());
+}

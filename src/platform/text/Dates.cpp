@@ -81,18 +81,28 @@ QString formatTime(QTime time, const QString& format) {
 }
 
 std::optional<QTime> parseTime(const QString& text) {
-    static const QRegularExpression form(
-        QStringLiteral(R"(^([0-9]{1,2})(?::([0-9]{1,2}))?(?::([0-9]{1,2}))?\s*(?:([ap])m?)?$)"),
-        QRegularExpression::CaseInsensitiveOption);
-    const auto match = form.match(text.trimmed());
-    const bool halves = match.hasCaptured(4);
-    if (!match.hasMatch() || (!halves && !match.hasCaptured(2))) return {};
-    int hour = match.captured(1).toInt();
+    QStringView rest = QStringView(text).trimmed();
+    if (rest.size() > 1 && rest.back().toLower() == u'm') rest.chop(1);
+    const QChar half = rest.isEmpty() ? QChar() : rest.back().toLower();
+    const bool halves = half == u'a' || half == u'p';
+    if (halves)
+        rest = rest.chopped(1).trimmed();
+    else
+        rest = QStringView(text).trimmed();
+    const auto parts = rest.split(u':');
+    if (parts.size() > 3 || (!halves && parts.size() < 2)) return {};
+    int numbers[3] = {};
+    for (qsizetype part = 0; part < parts.size(); ++part) {
+        const auto number = digits(parts[part], 2);
+        if (!number) return {};
+        numbers[part] = *number;
+    }
+    int& hour = numbers[0];
     if (halves) {
         if (hour < 1 || hour > 12) return {};
-        hour = hour % 12 + (match.captured(4).toLower() == QStringLiteral("p") ? 12 : 0);
+        hour = hour % 12 + (half == u'p' ? 12 : 0);
     }
-    const QTime time(hour, match.captured(2).toInt(), match.captured(3).toInt());
+    const QTime time(hour, numbers[1], numbers[2]);
     return time.isValid() ? std::optional(time) : std::nullopt;
 }
 

@@ -236,6 +236,23 @@ TEST_F(DataFileTest, ListsReadDisplayTextsFromTheIndexAlone) {
     EXPECT_FALSE(players.noMatch());
 }
 
+TEST_F(DataFileTest, QueriesOrderAccentedNamesBesidePlainOnesAndTheFileStaysReadable) {
+    for (const auto& [last, first] : {std::pair("Zwick", "Al"), {"Pena", "Zoe"}, {"Peña", "Al"}, {"Éclair", "Bo"}})
+        addPlayer(last, first, QDate(2011, 1, 1));
+    const QString byNames = " ORDER BY A![LastName] COLLATE Names, A.[FirstName]";
+    for (const QString& from : {QString("tblPlayer AS A"), QString("tblPlayer AS A LEFT JOIN tblDivision AS B ON "
+                                                                   "A.DivisionId = B.DivisionId")}) {
+        Recordset rows = database.openRecordset("SELECT A.LastName, A.FirstName FROM " + from + byNames);
+        QStringList names;
+        for (; !rows.eof(); rows.moveNext()) names << rows.text("LastName");
+        EXPECT_EQ(names, (QStringList{"Éclair", "Peña", "Pena", "Zwick"})) << from.toStdString();
+    }
+    QProcess tool;
+    tool.start("sqlite3", {path(), "PRAGMA integrity_check; SELECT LastName FROM tblPlayer ORDER BY LastName LIMIT 1;"});
+    ASSERT_TRUE(tool.waitForFinished());
+    EXPECT_EQ(tool.readAllStandardOutput(), "ok\nPena\n");
+}
+
 TEST_F(DataFileTest, DefinitionsChangeAndKeepRowsAndRules) {
     addDivision("A");
     database.addFields("tblDivision", {text("DivSport", 20), column("Umpires", ColumnType::Boolean)});

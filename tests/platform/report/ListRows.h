@@ -20,6 +20,7 @@ public:
             if (table_.columns[index].compare(name, Qt::CaseInsensitive) == 0) return int(index);
         return -1;
     }
+    int columnCount() const override { return int(table_.columns.size()); }
     bool next() override {
         do {
             ++row_;

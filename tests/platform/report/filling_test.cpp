@@ -154,6 +154,97 @@ TEST(ReportFiller, BindsSubReportsToTheirParentsRow) {
                            "  group: Players", "  row: Kim", "row: Owls", "row: Field: | Park of the Owls"}));
 }
 
+TEST(ReportFiller, RunsAKeyedSubReportOnceForTheWholeReport) {
+    const ListRows::Tables tables{{"teams", {{"Id", "Team"}, {{1, "bears"}, {2, "Cubs"}, {3, "Owls"}}}},
+                                  {"roster", {{"TeamId", "Name"}, {{1, "Ana"}, {2, "Kim"}, {1, "John"}}}},
+                                  {"parks", {{"Name"}, {{"BEARS"}, {"Cubs"}}}}};
+    QStringList opened;
+    const auto open = [&](const report::Query& query) {
+        opened << query.text;
+        return ListRows::over(tables)(query);
+    };
+    ReportDefinition roster;
+    roster.query.text = "roster";
+    roster.boundTo = {"Id"};
+    roster.keys = {"TeamId"};
+    roster.columns = {{"Name", column("Name"), 10, {}, Total::Count}};
+    roster.totals = fixed("Players:");
+    roster.whenEmpty = "Nobody yet";
+    ReportDefinition parks;
+    parks.query.text = "parks";
+    parks.boundTo = {"Team"};
+    parks.keys = {"Name"};
+    parks.columns = {{"", column("Name")}};
+    ReportDefinition definition;
+    definition.query.text = "teams";
+    definition.groups = {{.key = "Team",
+                          .header = {{.field = column("Team")}},
+                          .footer = fixed("end"),
+                          .lines = {{{.caption = "No.", .field = number("Id")}}},
+                          .parts = {parks},
+                          .footerParts = {roster}}};
+    ReportFiller filler(definition, open);
+    QStringList lines;
+    for (Band band; filler.next(band);) lines << asText(band);
+    EXPECT_EQ(lines, (QStringList{"group: bears", "row: 1", "  row: BEARS", "  heads: Name", "  row: Ana",
+                                  "  row: John", "  totals: Players: 2", "footer: end", "group: Cubs", "row: 2",
+                                  "  row: Cubs", "  heads: Name", "  row: Kim", "  totals: Players: 1", "footer: end",
+                                  "group: Owls", "row: 3", "  row: Nobody yet", "footer: end"}));
+    EXPECT_EQ(opened, (QStringList{"teams", "parks", "roster"}));
+}
+
+TEST(ReportFiller, StandsReportsAndRowsSideBySide) {
+    const ListRows::Tables tables{{"one", {{"A"}, {{"x"}}}},
+                                  {"shirts", {{"Size", "Count"}, {{"Small", 1}, {"Large", 2}, {"Other", 3}}}},
+                                  {"hats", {{"Size", "Count"}, {{"Flat", 5}}}}};
+    ReportDefinition shirts;
+    shirts.query.text = "shirts";
+    shirts.title = "Shirts";
+    shirts.columns = {{"Size", column("Size")}, {"Count", number("Count"), 5, {}, Total::Sum}};
+    shirts.totals = fixed("All");
+    ReportDefinition hats = shirts;
+    hats.query.text = "hats";
+    hats.title = "Hats";
+    ReportDefinition definition;
+    definition.query.text = "one";
+    definition.subReports = {shirts, hats};
+    definition.subReportsSideBySide = true;
+    EXPECT_EQ(filled(definition, tables),
+              (QStringList{"  group: Shirts |  | Hats", "  heads: Size | Count |  | Size | Count",
+                           "  row: Small | 1 |  | Flat | 5", "  row: Large | 2 |  | ", "  row: Other | 3 |  | ",
+                           "  totals: All | 6 |  | All | 5"}));
+    shirts.title.clear();
+    shirts.across = 2;
+    EXPECT_EQ(filled(shirts, tables),
+              (QStringList{"heads: Size | Count |  | Size | Count", "row: Small | 1 |  | Large | 2",
+                           "row: Other | 3 |  |  | ", "totals: All | 6"}));
+}
+
+TEST(ReportFiller, PrintsAFormWithAndWithoutARow) {
+    ReportDefinition form;
+    form.lines = {
+        {{"Name:", lastFirst("Last", "First"), 10, {}, Total::None, false, false, 0, 1}},
+        {{.field = phone("Area", "Phone"), .fillIn = 1}, {.field = box("Male", "Sex", "male")}},
+        Line{{.field = cityLine("City", "State", "Zip", "Country")}, {.field = fixed("words of its own")}}.ifFilled(),
+        Line{{.field = yesNo("Active").before("Active: ")}, {.field = joined({"City", "Zip", "State"}, "/")}}.boxed(),
+        Line{{.field = fixed("in the same box")}}.boxed(),
+    };
+    EXPECT_EQ(filled(form, {}), (QStringList{"row: ____________", "row: (    ) ____________ | [ ] Male",
+                                             "row: Active:  | ", "row: in the same box"}));
+    form.query.text = "player";
+    const ListRows::Tables tables{
+        {"player",
+         {{"Last", "First", "Area", "Phone", "Sex", "City", "State", "Zip", "Country", "Active"},
+          {{"Roy", "Zoé", "", "5551234", "Male", "Mill", "OR", "97050", "USA", 1}}}}};
+    EXPECT_EQ(filled(form, tables),
+              (QStringList{"row: Roy, Zoé", "row: 555-1234 | [x] Male", "row: Mill, OR 97050  USA | words of its own",
+                           "row: Active: Yes | Mill/97050/OR", "row: in the same box"}));
+    ReportFiller filler(form, ListRows::over(tables));
+    std::vector<int> edges;
+    for (Band band; filler.next(band);) edges.push_back(band.edges);
+    EXPECT_EQ(edges, (std::vector<int>{NoEdge, NoEdge, NoEdge, TopEdge | SideEdges, BottomEdge | SideEdges}));
+}
+
 TEST(ReportFiller, KnowsAnEmptyReport) {
     const ListRows::Tables none{{"players", {league.at("players").columns, {}}}};
     ReportDefinition definition = playerList();

@@ -87,14 +87,19 @@ TEST(Paginator, KeepsHeadersAndFootersWithTheirRowsWhereverThePageEnds) {
     for (int rows = 1; rows < 130; ++rows) {
         Paginator pages = paginator(twoGroups(rows, 3));
         int rowsSeen = 0;
+        QStringList named;
         for (const QStringList& page : allTexts(pages)) {
             const QString all = page.join(", ");
             ASSERT_EQ(page.first(), "title") << rows;
-            ASSERT_FALSE(page.last().endsWith("header") || page.last() == "heads") << rows << all.toStdString();
+            ASSERT_FALSE(page.last().contains("header") || page.last() == "heads") << rows << all.toStdString();
             // Behind title, group header and heads, repeated where the group goes on, stands a row.
-            ASSERT_TRUE(page.at(1).endsWith("header")) << rows << all.toStdString();
+            ASSERT_TRUE(page.at(1).contains("header")) << rows << all.toStdString();
             ASSERT_EQ(page.at(2), "heads") << rows << all.toStdString();
             ASSERT_TRUE(page.at(3).endsWith("row")) << rows << all.toStdString();
+            const bool isContinued = named.contains(page.at(1).section(' ', 0, 1));
+            ASSERT_EQ(page.at(1).endsWith(" header (continued)"), isContinued) << rows << all.toStdString();
+            for (const QString& text : page)
+                if (text.contains("header")) named << text.section(' ', 0, 1);
             ASSERT_EQ(page.at(1).section(' ', 0, 0), page.at(3).section(' ', 0, 0)) << rows << all.toStdString();
             rowsSeen += int(page.count("first row") + page.count("second row"));
         }
@@ -194,6 +199,72 @@ TEST(Paginator, DoesNotRepeatHeadersThatWouldFillThePage) {
     pages.layOutAll();
     EXPECT_LT(pages.pageCount(), 10);
     EXPECT_FALSE(texts(*pages.page(pages.pageCount() - 1)).join(' ').contains("word1 "));
+}
+
+TEST(Paginator, KeepsAGroupsLinesAndSubReportsWithTheirHeads) {
+    for (int rows = 30; rows < 60; ++rows) {
+        std::vector<Band> bands;
+        for (int row = 0; row < rows; ++row) bands.push_back(band(BandKind::Detail, 3, "row"));
+        bands.push_back(band(BandKind::GroupHeader, 0, "group header"));
+        bands.push_back(band(BandKind::Detail, 1, "line"));
+        bands.back().keepWithPrevious = true;
+        bands.push_back(band(BandKind::GroupHeader, 4, "sub-report"));
+        bands.push_back(band(BandKind::ColumnHeads, 5, "heads"));
+        for (int row = 0; row < 90; ++row) bands.push_back(band(BandKind::Detail, 6, "sub-row"));
+        bands.push_back(band(BandKind::Detail, 3, "last"));
+        Paginator pages = paginator(bands);
+        const auto all = allTexts(pages);
+        const QStringList together{"group header", "line", "sub-report", "heads", "sub-row"};
+        const auto page =
+            std::find_if(all.begin(), all.end(), [](const auto& texts) { return texts.contains("line"); });
+        ASSERT_NE(page, all.end());
+        EXPECT_EQ(page->mid(page->indexOf("group header"), 5), together) << rows;
+        ASSERT_NE(page + 1, all.end());
+        EXPECT_EQ((page + 1)->mid(0, 4),
+                  (QStringList{"group header (continued)", "sub-report (continued)", "heads", "sub-row"}))
+            << rows;
+    }
+}
+
+TEST(Paginator, DrawsFormsInsideTheirBoxes) {
+    Band form = band(BandKind::Detail, 0, "[x] " + longText(30));
+    form.edges = TopEdge | BottomEdge | SideEdges | CellEdges;
+    form.cells[0].format = Format::Box;
+    form.cells[0].label = "Label:";
+    form.cells.push_back({.text = longText(20), .share = 2});
+    form.cells.push_back({.label = "Write:", .text = blankRule, .fillIn = 3});
+    form.cells.push_back({.text = "placed", .framed = true, .at = QRectF(100, 120, 90, 40)});
+    Paginator pages = paginator({form});
+    const Page& page = *pages.page(0);
+    EXPECT_TRUE(texts(page).contains("X")) << "the cross in the box";
+    EXPECT_FALSE(page.text.contains('_')) << "rules are drawn";
+    const double left = 36 * unitsPerPoint;
+    const double width = pages.paper().paintRect(QPageLayout::Point).width() * unitsPerPoint;
+    const double borders[] = {left, left + width / 4, left + width * 3 / 4, left + width};
+    double bottom = 0;
+    int writingRules = 0;
+    for (const Rule& rule : page.rules) {
+        bottom = std::max(bottom, rule.area.bottom());
+        writingRules += rule.area.left() > borders[2] + 10 && rule.area.width() > width / 9 && rule.area.height() < 10;
+        EXPECT_TRUE(rule.area.left() >= left - 1 && rule.area.right() <= borders[3] + 1);
+    }
+    EXPECT_EQ(writingRules, 3);
+    EXPECT_GE(bottom, (36 + 160) * unitsPerPoint) << "around what is placed freely too";
+    for (const TextItem& item : page.items) {
+        const QRectF area = areasOf(pages, page, item.start, item.length).at(0);
+        EXPECT_LT(area.bottom(), bottom);
+        if (page.textOf(item) == u"placed") {
+            EXPECT_TRUE(QRectF(1360, 1560, 900, 400).contains(area));
+            continue;
+        }
+        const auto cell = std::upper_bound(std::begin(borders), std::end(borders), area.left());
+        EXPECT_LT(area.right(), *cell) << page.textOf(item).toString().toStdString();
+    }
+    for (size_t one = 0; one < page.items.size(); ++one) {
+        if (page.textOf(page.items[one]) == u"placed") continue;
+        for (size_t other = 0; other < one; ++other)
+            EXPECT_FALSE(overlap(pages, page, page.items[one], page.items[other]));
+    }
 }
 
 TEST(Paginator, FillsLabelsFromTheFirstFreeOneOn) {

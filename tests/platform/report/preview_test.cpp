@@ -25,6 +25,7 @@ class Numbers final : public RowSource {
 public:
     Numbers(int count, bool breaks) : count_(count), breaks_(breaks) {}
     int column(const QString& name) const override { return name == "Number" ? 0 : -1; }
+    int columnCount() const override { return 1; }
     bool next() override {
         if (breaks_ && row_ == 5000) throw std::runtime_error("The data file is damaged.");
         return ++row_ <= count_;
@@ -42,6 +43,7 @@ protected:
     void open(int rows, bool breaks = false) {
         ReportDefinition definition;
         definition.title = "Numbers";
+        definition.query.text = "numbers";
         definition.columns = {{"Number", column("Number")}};
         const auto source = [rows, breaks](const Query&) { return std::make_unique<Numbers>(rows, breaks); };
         window_ = std::make_unique<ReportPreview>(Report{definition, source}, printer_, dialogs_);

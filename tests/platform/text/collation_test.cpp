@@ -78,3 +78,25 @@ TEST(Collation, LeavesPlainEntriesWhereTheQueryPutThem) {
     placeAccented(all);
     EXPECT_EQ(all, (std::vector<QString>{"Éva", "Ève", "Zoé"}));
 }
+
+TEST(Collation, ComparesNamesOfOneColumnSoThatAFurtherColumnCanDecide) {
+    const std::vector<std::vector<std::string>> ordered = {{"", ""},
+                                                           {"Éclair", "eclair"},
+                                                           {"Edwards"},
+                                                           {"Müller", "muller", "MULLER"},
+                                                           {"O'Brien", "O’Brien"},
+                                                           {"Oakley"},
+                                                           {"Østby"},
+                                                           {"Ostler"},
+                                                           {"Peña", "PEÑA", "pena"},
+                                                           {"Peñas"},
+                                                           {"Straße", "Strasse"},
+                                                           {"Юлия"}};
+    for (size_t left = 0; left < ordered.size(); ++left)
+        for (size_t right = 0; right < ordered.size(); ++right)
+            for (const std::string& a : ordered[left])
+                for (const std::string& b : ordered[right]) {
+                    const int sign = compareNames(a, b);
+                    EXPECT_EQ((sign > 0) - (sign < 0), int(left > right) - int(left < right)) << a << " <> " << b;
+                }
+}

@@ -1,0 +1,186 @@
+#include <zip.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+
+#include "Comparison.h"
+#include "RawFile.h"
+#include "SampleFile.h"
+#include "maintenance/work/Backup.h"
+#include "maintenance/work/NewSeason.h"
+#include "platform/datafile/DataFile.h"
+
+// A new season with every box checked beside the engine told to do the same, and backup and restore beside the archive
+// library alone. Copies of the file that are made for a call do not count.
+
+namespace {
+
+constexpr int smallLeague = 10000;
+constexpr int largeLeague = 100000;
+constexpr int times = 3;
+constexpr double mostSeasonTimes = 1.3;
+constexpr double mostArchiveTimes = 1.1;
+
+double seconds(const std::function<void()>& work) {
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
+}
+
+void must(bool holds, const char* what) {
+    if (!holds) qFatal("%s failed.", what);
+}
+
+/// What the boxes ask for, all of them, in the engine's own language; each list is a transaction.
+std::vector<std::vector<QString>> seasonByHand() {
+    const QString stamps = "DateStamp = '2026-05-16', TimeStamp = 43200";
+    const auto players = [&](const char* set) { return QString("UPDATE tblRegistration SET %1, ").arg(stamps) + set; };
+    const auto marked = [&](const char* table) {
+        return QString("UPDATE %1 SET %2, DeletedFlag = 1").arg(table, stamps);
+    };
+    const auto ratings = [&](const char* set) {
+        return QString("UPDATE tblAbilityRating SET %1, DeletedFlag = 0, ").arg(stamps) + set;
+    };
+    const char* const ofVolunteers =
+        "UmpireHomePlateRating = 0, UmpireFieldRating = 0, UmpireKnowledgeRating = 0, CoachAbilityRating = 0, "
+        "CoachAttitudeRating = 0, CoachKnowledgeRating = 0, CoachReturn = 0 WHERE ";
+    return {
+        {"UPDATE tblOptions SET CurrentSeasonYear = '2027'"},
+        {players("PlayerActive = 0 WHERE PlayerActive = 1")},
+        {players("PlayerRegistrationDate = '2026-05-16'")},
+        {players("PlayerIsUmpire = 0 WHERE PlayerIsUmpire = 1")},
+        {players("PlayerTryoutNumber = ''")},
+        {players("PlayerDivisionId = 0, PlayerTeamId = 0 WHERE PlayerDivisionId <> 0")},
+        {players("PlayerComments = ''")},
+        {players("PlayerOtherFees = '', PlayerFundRaiserFee = ''")},
+        {players("PlayerAmountPaid = '', PlayerHowFeePaid = ''")},
+        {ratings("PitcherRating = 0, CatcherRating = 0, InfieldRating = 0, OutfieldRating = 0, ThrowingRating = 0, "
+                 "RunningRating = 0, BattingRating = 0, KnowledgeRating = 0, PositionPitcher = 0, PositionCatcher = 0, "
+                 "PositionFirstBase = 0, PositionSecondBase = 0, PositionShortStop = 0, PositionThirdBase = 0, "
+                 "PositionLeftField = 0, PositionCenterField = 0, PositionRightField = 0, PositionAllPositions = 0 "
+                 "WHERE PlayerId <> 0")},
+        {players("PlayerSchoolName = CASE PlayerGradeLevel WHEN '12' THEN '' ELSE PlayerSchoolName END, "
+                 "PlayerGradeLevel = CASE WHEN PlayerGradeLevel IN ('12', '0') THEN '0' WHEN PlayerGradeLevel = 'K' "
+                 "THEN '1' WHEN PlayerGradeLevel GLOB '[0-9]*' THEN CAST(PlayerGradeLevel + 1 AS TEXT) ELSE '' END")},
+        {players("PlayerYearsExperience = CASE WHEN PlayerYearsExperience GLOB '[0-9]*' THEN "
+                 "CAST(PlayerYearsExperience + 1 AS TEXT) ELSE '1' END")},
+        {marked("tblEquipmentAssignment")},
+        {marked("tblVolunteer"), marked("tblVolToPosition"), marked("tblVolunteerCertifications"),
+         marked("tblRegistrationVolunteer"),
+         players("PlayerDadVolunteer = 1, PlayerMomVolunteer = 1 WHERE PlayerDadVolunteer = 0 OR PlayerMomVolunteer = "
+                 "0")},
+        {marked("tblTeam"), "DELETE FROM tblSchedule WHERE 1", marked("tblDivision")},
+        {"DELETE FROM tblTeamField WHERE 1"},
+        {QString("UPDATE tblTeam SET %1, SponsorId = 0").arg(stamps)},
+        {"DELETE FROM tblResults WHERE 1"},
+        {ratings(ofVolunteers) + "VolId <> 0",
+         ratings(ofVolunteers) + "PlayerId IN (SELECT PlayerId FROM tblRegistration WHERE PlayerIsUmpire = 1)"},
+        {marked("tblTeamVolunteer")},
+    };
+}
+
+void openSeasonByHand(const QString& path) {
+    const RawFile file(path);
+    const auto run = [&file](const QString& statement) {
+        must(sqlite3_exec(file.handle(), statement.toUtf8().constData(), nullptr, nullptr, nullptr) == SQLITE_OK,
+             qPrintable(statement));
+    };
+    for (const std::vector<QString>& step : seasonByHand()) {
+        run("BEGIN IMMEDIATE");
+        for (const QString& statement : step) run(statement);
+        run("COMMIT");
+    }
+}
+
+void openSeason(StoreContext& context) {
+    SeasonBoxes boxes;
+    for (size_t box = 0; box < seasonBoxCount; ++box) boxes.set(static_cast<SeasonBox>(box), true);
+    const auto nothing = [](const QString&) {};
+    runNewSeason(context, boxes, "2027", {nothing, nothing, [](int) {}});
+}
+
+void zipByHand(const QString& file, const QString& archive) {
+    zip_t* zip = zip_open(QFile::encodeName(archive), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
+    const zip_int64_t member =
+        zip_file_add(zip, "Kestrelmoor.kmr", zip_source_file(zip, QFile::encodeName(file), 0, -1), 0);
+    zip_set_file_compression(zip, static_cast<zip_uint64_t>(member), ZIP_CM_DEFLATE, 9);
+    must(zip_close(zip) == 0, "Packing by hand");
+}
+
+void unzipByHand(const QString& archive, const QString& to) {
+    zip_t* zip = zip_open(QFile::encodeName(archive), ZIP_RDONLY, nullptr);
+    zip_file_t* member = zip_fopen(zip, "Kestrelmoor.kmr", 0);
+    QFile file(to);
+    must(member && (to.isEmpty() || file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)), "Unpacking by hand");
+    QByteArray block(1 << 18, Qt::Uninitialized);
+    while (const zip_int64_t count = zip_fread(member, block.data(), static_cast<zip_uint64_t>(block.size())))
+        must(count > 0 && (to.isEmpty() || file.write(block.constData(), count) == count), "Unpacking by hand");
+    zip_fclose(member);
+    zip_discard(zip);
+}
+
+void measureSeason(Comparison& comparison, const QString& folder, int players) {
+    comparison.addMeasured(
+        {"new season, every box", players, {.times = mostSeasonTimes}}, times,
+        [=] {
+            SampleLeague league(folder, players);
+            return seconds([&] { openSeason(league.context); });
+        },
+        [=] {
+            SampleLeague league(folder, players);
+            league.database.reset();
+            return seconds([&] { openSeasonByHand(league.context.dataFilePath); });
+        });
+}
+
+void measureArchive(Comparison& comparison, const QString& folder, int players) {
+    const QString ours = folder + "/ours.zip";
+    const QString raw = folder + "/raw.zip";
+    const auto league = std::make_shared<SampleLeague>(folder, players);
+    const QString file = league->context.dataFilePath;
+    comparison.addMeasured(
+        {"back up: pack", players, {.times = mostArchiveTimes}}, times,
+        [=] { return seconds([&] { must(archive::pack(file, ours) == archive::Fault::None, "Packing"); }); },
+        [=] { return seconds([&] { zipByHand(file, raw); }); });
+    comparison.addMeasured(
+        {"back up: read back and compare", players, {}}, times,
+        [=] { return seconds([&] { must(archive::compare(ours, file) == archive::Fault::None, "Comparing"); }); },
+        [=] { return seconds([&] { unzipByHand(ours, {}); }); });
+    comparison.addMeasured(
+        {"restore: unpack", players, {.times = mostArchiveTimes}}, times,
+        [=] {
+            return seconds([&] {
+                must(archive::unpack(ours, "Kestrelmoor.kmr", folder + "/ours.kmr", largestDataFile) ==
+                         archive::Fault::None,
+                     "Unpacking");
+            });
+        },
+        [=] { return seconds([&] { unzipByHand(ours, folder + "/raw.kmr"); }); });
+    comparison.addMeasured(
+        {"restore: copy, unpack, check and swap", players, {}}, times,
+        [=] {
+            return seconds(
+                [&] { must(restore(league->context, ours, league->files.path(), {}) == 0, "Restoring"); });
+        },
+        [=] {
+            return seconds([&] {
+                QFile::remove(folder + "/raw.BKM");
+                QFile::copy(file, folder + "/raw.BKM");
+                unzipByHand(ours, folder + "/raw.kmr");
+                datafile::checkIntegrity(folder + "/raw.kmr");
+            });
+        });
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    QCoreApplication application(count, arguments);
+    const QTemporaryDir folder;
+    Comparison comparison(&count, arguments);
+    for (const int players : {smallLeague, largeLeague}) measureSeason(comparison, folder.path(), players);
+    measureArchive(comparison, folder.path(), largeLeague);
+    return comparison.run();
+}

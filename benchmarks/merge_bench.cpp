@@ -1,0 +1,181 @@
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+
+#include "Comparison.h"
+#include "RawFile.h"
+#include "SampleFile.h"
+#include "maintenance/merge/MergeFile.h"
+#include "maintenance/merge/MergeSteps.h"
+#include "merge/MergeInto.h"
+#include "platform/datafile/DataFile.h"
+#include "store/Schema.h"
+
+// The merge of two files of which a tenth differ, beside set-wise SQL over both files attached to each other: the same
+// keys, references and stamps, one transaction a step. Each time a fresh copy of the local file is merged into; that
+// copy does not count.
+
+namespace {
+
+constexpr double mostTimes = 2;
+constexpr int times = 3;
+
+void run(const RawFile& file, const QString& statement) {
+    char* error = nullptr;
+    if (sqlite3_exec(file.handle(), statement.toUtf8().constData(), nullptr, nullptr, &error) != SQLITE_OK)
+        qFatal("%s: %s", qPrintable(statement), error);
+}
+
+/// Nine of a hundred rows of each table are newer there, and one of a hundred players is unknown here.
+QString otherFile(const QString& folder, const QString& league) {
+    const QString path = folder + "/other.kmr";
+    QFile::remove(path);
+    if (!QFile::copy(league, path)) qFatal("%s could not be copied.", qPrintable(league));
+    const RawFile file(path);
+    run(file, "BEGIN");
+    for (const MergeStep& step : mergeSteps())
+        for (const MergeTable& table : step.tables)
+            run(file, QString("UPDATE %1 SET DateStamp = '2026-05-15', TimeStamp = 86000 WHERE rowid % 100 < 9")
+                          .arg(table.name));
+    run(file, "UPDATE tblRegistration SET PlayerComments = 'seen by the second officer' WHERE PlayerId % 100 < 9");
+    run(file, "UPDATE tblRegistration SET PlayerFirstName = PlayerFirstName || ' B' WHERE PlayerId % 100 = 50");
+    run(file, "COMMIT");
+    return path;
+}
+
+/// The statements that merge one table from the attached file `theirs`.
+class SetWise {
+public:
+    explicit SetWise(const MergeTable& table) : table_(table), name_(table.name) {
+        for (const datafile::TableDef& each : schema::tables())
+            if (each.name == name_) about_ = each;
+    }
+
+    QStringList statements() const {
+        QStringList statements;
+        if (!table_.needsReference) {
+            statements << forRows(keys(table_.naturalKey), "1");
+        } else {
+            for (const char* column : table_.naturalKey)
+                statements << forRows(keys({column}), QString("s.%1 <> 0").arg(column));
+        }
+        if (table_.id)
+            statements << QString("CREATE TEMP TABLE map_%1 (theirs INTEGER PRIMARY KEY, ours INTEGER)").arg(name_)
+                       << QString(
+                              "INSERT INTO map_%1 SELECT s.%2, (SELECT l.%2 FROM main.%1 l WHERE %3 ORDER BY "
+                              "l.DeletedFlag LIMIT 1) FROM theirs.%1 s")
+                              .arg(name_, QLatin1String(table_.id), keys(table_.naturalKey));
+        return statements;
+    }
+
+private:
+    QString value(const QString& column) const {
+        for (const ForeignKey& foreign : table_.foreign)
+            if (column == QLatin1String(foreign.column))
+                return QString("coalesce((SELECT ours FROM map_%1 WHERE theirs = s.%2), 0)")
+                    .arg(foreign.parent, column);
+        return "s." + column;
+    }
+    QString keys(std::vector<const char*> columns) const {
+        if (table_.finer) columns.push_back(table_.finer);
+        QStringList conditions;
+        for (const char* column : columns) conditions << QString("l.%1 = %2").arg(column, value(column));
+        return conditions.join(" AND ");
+    }
+    QStringList forRows(const QString& keys, QString wanted) const {
+        for (const ForeignKey& foreign : table_.foreign)
+            if (foreign.unknown == Unknown::Skips || foreign.unknown == Unknown::SkipsUnlessLive)
+                wanted += QString(" AND %1 <> 0").arg(value(foreign.column));
+        QStringList columns;
+        QStringList values;
+        QStringList picked;
+        for (const datafile::FieldDef& field : about_.fields) {
+            if (field.type == datafile::ColumnType::AutoKey) continue;
+            columns << field.name;
+            values << value(field.name);
+            picked << QString("%1 AS v%2").arg(values.last()).arg(picked.size());
+        }
+        QStringList assigned;
+        for (qsizetype i = 0; i < columns.size(); ++i) assigned << QString("%1 = j.v%2").arg(columns[i]).arg(i);
+        const QString newer = table_.existing == Existing::OlderYields
+                                  ? " AND (s.DateStamp, s.TimeStamp) > (l.DateStamp, l.TimeStamp)"
+                                  : "";
+        const QString update = QString(
+                                   "UPDATE main.%1 SET %2 FROM (SELECT l.rowid AS target, %3 FROM theirs.%1 s CROSS "
+                                   "JOIN main.%1 l WHERE %4 AND %5%6) AS j WHERE %1.rowid = j.target")
+                                   .arg(name_, assigned.join(','), picked.join(','), wanted, keys, newer);
+        const QString insert =
+            QString(
+                "INSERT INTO main.%1 (%2) SELECT %3 FROM theirs.%1 s WHERE %4%5 AND NOT EXISTS (SELECT 1 FROM "
+                "main.%1 l WHERE %6)")
+                .arg(name_, columns.join(','), values.join(','), wanted,
+                     table_.addsDeleted ? "" : " AND s.DeletedFlag = 0", keys);
+        return table_.existing == Existing::Stays ? QStringList{insert} : QStringList{update, insert};
+    }
+
+    const MergeTable& table_;
+    QString name_;
+    datafile::TableDef about_;
+};
+
+void mergeByHand(const QString& local, const QString& other) {
+    const RawFile file(local);
+    run(file, "ATTACH '" + other + "' AS theirs");
+    for (const MergeStep& step : mergeSteps()) {
+        run(file, "BEGIN IMMEDIATE");
+        for (const MergeTable& table : step.tables)
+            for (const QString& statement : SetWise(table).statements()) run(file, statement);
+        run(file, "COMMIT");
+    }
+}
+
+double seconds(const std::function<void()>& work) {
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    QCoreApplication application(count, arguments);
+    const QTemporaryDir folder;
+    Comparison comparison(&count, arguments);
+    std::vector<std::unique_ptr<QTemporaryDir>> others;
+    for (const int players : {10000, 100000}) {
+        const QString folderName = others.emplace_back(std::make_unique<QTemporaryDir>())->path();
+        const QString league = sampleFile(folder.path(), players);
+        const QString other = otherFile(folderName, league);
+        comparison.addMeasured(
+            {"merge the rows of a second file", players, {.times = mostTimes}}, times,
+            [=] {
+                SampleLeague copy(QFileInfo(league).path(), players);
+                const datafile::Database source = copy.workspace.openDatabase(other);
+                return seconds([&] { mergeInto(copy.context, source); });
+            },
+            [=] {
+                const SampleLeague copy(QFileInfo(league).path(), players);
+                return seconds([&] { mergeByHand(copy.context.dataFilePath, other); });
+            });
+        comparison.addMeasured(
+            {"the same, copied and checked first", players, {.times = mostTimes}}, times,
+            [=] {
+                SampleLeague copy(QFileInfo(league).path(), players);
+                return seconds([&] {
+                    const MergeFile file(copy.context, other);
+                    mergeInto(copy.context, file.database());
+                });
+            },
+            [=] {
+                const SampleLeague copy(QFileInfo(league).path(), players);
+                return seconds([&] {
+                    const QString work = copy.files.filePath("work.kmr");
+                    QFile::copy(other, work);
+                    run(RawFile(work), "PRAGMA quick_check(1)");
+                    mergeByHand(copy.context.dataFilePath, work);
+                });
+            });
+    }
+    return comparison.run();
+}

@@ -1,0 +1,3 @@
+#include "reports/Reports.h"
+
+LeagueReport Reports::rptPlayerBlankRegistrationForm(const ReportInput& input) { return registrationForm(input); }

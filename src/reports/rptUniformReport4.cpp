@@ -1,0 +1,12 @@
+#include "reports/Reports.h"
+#include "reports/UniformRows.h"
+
+using namespace report;
+
+LeagueReport Reports::rptUniformReport4(const ReportInput& input) {
+    ReportDefinition report = headed(input, tr("Uniform Pants and Shirt Size Summary"));
+    const SizeOwners owners = wholeLeague();
+    report.subReports = {pantCounts(owners), shirtCounts(owners)};
+    report.subReportsSideBySide = true;
+    return report;
+}
