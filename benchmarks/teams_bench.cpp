@@ -12,6 +12,7 @@
 #include "platform/widgets/ListMover.h"
 #include "platform/widgets/SearchCombo.h"
 #include "setup/clsOptions.h"
+#include "shell/RecordPane.h"
 #include "shell/Screens.h"
 #include "support/MemorySettings.h"
 
@@ -84,7 +85,7 @@ constexpr char rawPlayers[] =
 constexpr char rawEnding[] =
     " AND PlayerActive = 1 AND r.DeletedFlag = 0 ORDER BY PlayerLastName, PlayerFirstName, PlayerBirthDate";
 
-void measureAssignments(Comparison& comparison, League& league) {
+void measureAssignments(Comparison& comparison, League& league, ListMover* plain) {
     QWidget& screen = league.open("frmTeams");
     showTab(screen, "Teams");
     showTab(screen, "Player/Team Assignments");
@@ -96,7 +97,6 @@ void measureAssignments(Comparison& comparison, League& league) {
         league.database->readList("SELECT [DivisionId] FROM tblDivision WHERE [DivName] = \"!Draft\"", "DivisionId")
             .front();
     auto raw = std::make_shared<RawFile>(league.context.dataFilePath);
-    auto plain = std::make_shared<ListMover>("lstPlain", "Unassigned", "Team");
     plain->resize(900, 400);
     plain->show();
     QApplication::processEvents();
@@ -147,12 +147,15 @@ void measureAssignments(Comparison& comparison, League& league) {
         });
 }
 
-void measureRatings(Comparison& comparison, League& league) {
+void measureRatings(Comparison& comparison, League& league, SearchCombo* combo) {
     QWidget& screen = league.open("frmRatings");
     showTab(screen, "Volunteer Ratings");
     QApplication::processEvents();
+    RecordPane* pane = nullptr;
+    for (auto* each : screen.findChildren<RecordPane*>())
+        if (each->findChild<SearchCombo*>("cboUmpireSearchList")) pane = each;
+    if (!pane) qFatal("There is no list of umpires and volunteers.");
     auto raw = std::make_shared<RawFile>(league.context.dataFilePath);
-    auto combo = std::make_shared<SearchCombo>("People");
     combo->show();
     const auto statement = [&raw](const char* sql) { return std::make_shared<RawStatement>(*raw, sql); };
     const auto players = statement(
@@ -163,11 +166,8 @@ void measureRatings(Comparison& comparison, League& league) {
         "ORDER BY LastName, FirstName");
     comparison.add(
         {"build the list of umpires and volunteers", league.size, {.times = 1.3}},
-        [&screen, &league] {
-            league.run("UPDATE tblTempSearchList SET [HomePhone] = \"\" WHERE [VolId] = -1");
-            league.run("UPDATE tblRating SET [RatingText] = [RatingText]");  // something changed elsewhere
-            showTab(screen, "Player Ratings");
-            showTab(screen, "Volunteer Ratings");
+        [pane] {
+            pane->showFirst();
             QApplication::processEvents();
         },
         [raw, combo, players, volunteers] {
@@ -204,7 +204,9 @@ int main(int count, char** arguments) {
     constexpr int players = 100000;
     League draft(QCoreApplication::applicationDirPath(), players);
     League grades(QCoreApplication::applicationDirPath(), players);
-    measureAssignments(comparison, draft);
-    measureRatings(comparison, grades);
+    ListMover plainLists("lstPlain", "Unassigned", "Team");
+    SearchCombo plainList("People");
+    measureAssignments(comparison, draft, &plainLists);
+    measureRatings(comparison, grades, &plainList);
     return comparison.run();
 }
