@@ -79,12 +79,12 @@ void AssignmentPane::addItem(FormBuilder& builder) {
 }
 
 Grid* AssignmentPane::makeGrid() {
-    const auto number = Qt::AlignRight;
-    auto* grid = new Grid({{.caption = tr("Assigned Item"), .characters = 30, .stretches = true},
-                           {.caption = tr("Qty. Distributed"), .characters = 14, .alignment = number},
-                           {.caption = tr("Date Distributed"), .characters = 14},
-                           {.caption = tr("Qty. Returned"), .characters = 14, .alignment = number},
-                           {.caption = tr("DateReturned"), .characters = 14}});
+    const auto number = Qt::AlignHCenter;
+    auto* grid = new Grid({{.caption = tr("Assigned Item"), .characters = 16, .stretches = true},
+                           {.caption = tr("Qty. Distributed"), .characters = 12, .alignment = number},
+                           {.caption = tr("Date Distributed"), .characters = 12},
+                           {.caption = tr("Qty. Returned"), .characters = 12, .alignment = number},
+                           {.caption = tr("DateReturned"), .characters = 12}});
     grid->setObjectName("flxGridAssignedItems");
     grid->setAccessibleName(tr("Assigned Items"));
     connect(grid, &Grid::rowPicked, this, &AssignmentPane::showPicked);
