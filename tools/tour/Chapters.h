@@ -13,6 +13,9 @@ void visitEquipment(Guide& guide);
 /// A registration form, a roster and the balance report in their previews.
 void visitReports(Guide& guide);
 
+/// A game in the schedule, the result of another, and the standings.
+void visitGames(Guide& guide);
+
 /// A second officer's file is made and merged.
 void mergeSecondFile(Guide& guide);
 

@@ -16,6 +16,7 @@ void chooseDivision(Guide& guide, const QString& list) {
 }
 
 void addRow(Guide& guide, Grid& grid) {
+    QWidget& screen = guide.front();
     const QPoint place(20, 20);
     QContextMenuEvent event(QContextMenuEvent::Mouse, place, grid.viewport()->mapToGlobal(place));
     QApplication::sendEvent(grid.viewport(), &event);
@@ -23,6 +24,7 @@ void addRow(Guide& guide, Grid& grid) {
     guide.waitFor([&] { return menu.isVisible(); }, "The menu of the rows");
     QTest::mouseClick(&menu, Qt::LeftButton, {},
                       menu.actionGeometry(&guide.control<QAction>("MnuFGridAddRow")).center());
+    screen.activateWindow();  // where no window manager does it
     guide.waitForFocus("T1");
 }
 

@@ -80,6 +80,7 @@ Tour::Tour(ProgramParts& parts, Guide& guide, QString pdf) : parts_(parts), guid
 void Tour::take() {
     start();
     visitReports(guide_);
+    visitGames(guide_);
     openRegistration();
     renameOrganization();
     addDivision();
