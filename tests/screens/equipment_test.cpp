@@ -3,6 +3,7 @@
 #include "platform/widgets/SearchCombo.h"
 #include "support/RunningProgram.h"
 
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QTabWidget>
 
