@@ -72,7 +72,7 @@ void showStandings(Guide& guide) {
     auto& grid = guide.control<Grid>("flxGridStandings");
     guide.require(!grid.rows().empty() && grid.text(0, 0) == QLatin1String("1"), "A first place");
     guide.picture("standings");
-    guide.click("cmdClose");
+    guide.clickTool("btnStartUp");
     guide.waitForScreen("frmStartUp");
 }
 
