@@ -81,6 +81,7 @@ void Tour::take() {
     start();
     visitReports(guide_);
     visitLabels(guide_);
+    visitGames(guide_);
     openRegistration();
     renameOrganization();
     addDivision();

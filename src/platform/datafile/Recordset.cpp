@@ -14,6 +14,7 @@ QString tr(const char* text) { return QCoreApplication::translate("datafile", te
 constexpr size_t readAheadRows = 64;
 
 Value wholeNumber(const Value& value, const QString& column, qint64 least, qint64 most) {
+    if (const auto* whole = std::get_if<qint64>(&value); whole && *whole >= least && *whole <= most) return value;
     if (isNull(value) || toText(value).trimmed().isEmpty()) return {};
     bool ok = false;
     const double number = toText(value).trimmed().toDouble(&ok);

@@ -4,7 +4,10 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QScreen>
 #include <QWindow>
 
@@ -76,6 +79,24 @@ std::optional<QString> pickFile(const FileRequest& request, QFileDialog::AcceptM
     return dialog.selectedFiles().value(0);
 }
 
+/// A text of very many lines scrolls, so that the buttons stay on the screen.
+void scrollLongText(QMessageBox& message) {
+    constexpr int mostLines = 20;
+    if (message.text().count(u'\n') < mostLines) return;
+    auto* label = message.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!label || !message.layout()) return;
+    auto* area = new QScrollArea;
+    delete message.layout()->replaceWidget(label, area);
+    label->setWordWrap(false);
+    label->setContentsMargins({});
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(label);
+    area->setFixedSize(label->sizeHint().width() + area->verticalScrollBar()->sizeHint().width(),
+                       message.fontMetrics().lineSpacing() * mostLines);
+    label->show();
+}
+
 }  // namespace
 
 DesktopDialogs::DesktopDialogs() { Q_INIT_RESOURCE(message); }
@@ -90,6 +111,7 @@ BoxAnswer DesktopDialogs::box(BoxKind kind, BoxButtons buttons, const QString& t
     message.setTextFormat(Qt::PlainText);
     message.setDefaultButton(destroys ? offered.closing : offered.usual);
     message.setEscapeButton(offered.closing);
+    scrollLongText(message);
     return answerOf(message.exec());
 }
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
@@ -52,6 +53,20 @@ TEST(DesktopDialogs, BoxesAnswerReturnAndEscape) {
         EXPECT_EQ(answerTo(Qt::Key_Return, it.buttons, it.title), it.onReturn) << it.title;
         EXPECT_EQ(answerTo(Qt::Key_Escape, it.buttons, it.title), it.onEscape) << it.title;
     }
+}
+
+TEST(DesktopDialogs, ManyLinesLeaveTheButtonsOnTheScreen) {
+    QString text = "First line";
+    for (int line = 1; line <= 200; ++line) text += QStringLiteral("\nRow %1 - Invalid Game Date").arg(line);
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_LT(box.height(), QGuiApplication::primaryScreen()->availableSize().height());
+        const auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+        EXPECT_TRUE(label->isVisible());
+        EXPECT_EQ(label->text(), text);
+        EXPECT_GE(label->height(), label->sizeHint().height()) << "it can be scrolled to its end";
+        EXPECT_TRUE(box.rect().contains(box.button(QMessageBox::Ok)->geometry().center()));
+    });
+    DesktopDialogs().warning("Schedule Validation", text);
 }
 
 TEST(DesktopDialogs, FormKeepsItsSizeWithinTheScreen) {
