@@ -26,10 +26,11 @@ void run(const RawFile& file, const QString& statement) {
         qFatal("%s: %s", qPrintable(statement), error);
 }
 
-/// Nine of a hundred rows of each table are newer there, and one of a hundred players is unknown here.
+/// Nine of a hundred rows of each table are newer there, and one of a hundred players is unknown here. Made on first
+/// use.
 QString otherFile(const QString& folder, const QString& league) {
-    const QString path = folder + "/other.kmr";
-    QFile::remove(path);
+    const QString path = folder + "/" + QFileInfo(league).completeBaseName() + "-other.kmr";
+    if (QFile::exists(path)) return path;
     if (!QFile::copy(league, path)) qFatal("%s could not be copied.", qPrintable(league));
     const RawFile file(path);
     run(file, "BEGIN");
@@ -88,22 +89,18 @@ private:
                 wanted += QString(" AND %1 <> 0").arg(value(foreign.column));
         QStringList columns;
         QStringList values;
-        QStringList picked;
         for (const datafile::FieldDef& field : about_.fields) {
             if (field.type == datafile::ColumnType::AutoKey) continue;
             columns << field.name;
             values << value(field.name);
-            picked << QString("%1 AS v%2").arg(values.last()).arg(picked.size());
         }
         QStringList assigned;
-        for (qsizetype i = 0; i < columns.size(); ++i) assigned << QString("%1 = j.v%2").arg(columns[i]).arg(i);
+        for (qsizetype i = 0; i < columns.size(); ++i) assigned << columns[i] + " = " + values[i];
         const QString newer = table_.existing == Existing::OlderYields
                                   ? " AND (s.DateStamp, s.TimeStamp) > (l.DateStamp, l.TimeStamp)"
                                   : "";
-        const QString update = QString(
-                                   "UPDATE main.%1 SET %2 FROM (SELECT l.rowid AS target, %3 FROM theirs.%1 s CROSS "
-                                   "JOIN main.%1 l WHERE %4 AND %5%6) AS j WHERE %1.rowid = j.target")
-                                   .arg(name_, assigned.join(','), picked.join(','), wanted, keys, newer);
+        const QString update = QString("UPDATE main.%1 AS l SET %2 FROM theirs.%1 AS s WHERE %3 AND %4%5")
+                                   .arg(name_, assigned.join(','), wanted, keys, newer);
         const QString insert =
             QString(
                 "INSERT INTO main.%1 (%2) SELECT %3 FROM theirs.%1 s WHERE %4%5 AND NOT EXISTS (SELECT 1 FROM "
@@ -142,36 +139,37 @@ int main(int count, char** arguments) {
     QCoreApplication application(count, arguments);
     const QTemporaryDir folder;
     Comparison comparison(&count, arguments);
-    std::vector<std::unique_ptr<QTemporaryDir>> others;
     for (const int players : {10000, 100000}) {
-        const QString folderName = others.emplace_back(std::make_unique<QTemporaryDir>())->path();
-        const QString league = sampleFile(folder.path(), players);
-        const QString other = otherFile(folderName, league);
+        const auto other = [&folder, players] { return otherFile(folder.path(), sampleFile(folder.path(), players)); };
         comparison.addMeasured(
             {"merge the rows of a second file", players, {.times = mostTimes}}, times,
-            [=] {
-                SampleLeague copy(QFileInfo(league).path(), players);
-                const datafile::Database source = copy.workspace.openDatabase(other);
+            [&folder, players, other] {
+                const QString file = other();
+                SampleLeague copy(folder.path(), players);
+                const datafile::Database source = copy.workspace.openDatabase(file);
                 return seconds([&] { mergeInto(copy.context, source); });
             },
-            [=] {
-                const SampleLeague copy(QFileInfo(league).path(), players);
-                return seconds([&] { mergeByHand(copy.context.dataFilePath, other); });
+            [&folder, players, other] {
+                const QString file = other();
+                const SampleLeague copy(folder.path(), players);
+                return seconds([&] { mergeByHand(copy.context.dataFilePath, file); });
             });
         comparison.addMeasured(
             {"the same, copied and checked first", players, {.times = mostTimes}}, times,
-            [=] {
-                SampleLeague copy(QFileInfo(league).path(), players);
+            [&folder, players, other] {
+                const QString file = other();
+                SampleLeague copy(folder.path(), players);
                 return seconds([&] {
-                    const MergeFile file(copy.context, other);
-                    mergeInto(copy.context, file.database());
+                    const MergeFile checked(copy.context, file);
+                    mergeInto(copy.context, checked.database());
                 });
             },
-            [=] {
-                const SampleLeague copy(QFileInfo(league).path(), players);
+            [&folder, players, other] {
+                const QString file = other();
+                const SampleLeague copy(folder.path(), players);
                 return seconds([&] {
                     const QString work = copy.files.filePath("work.kmr");
-                    QFile::copy(other, work);
+                    QFile::copy(file, work);
                     run(RawFile(work), "PRAGMA quick_check(1)");
                     mergeByHand(copy.context.dataFilePath, work);
                 });
