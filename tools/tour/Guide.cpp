@@ -151,7 +151,7 @@ void Guide::watch() {
     if (!dialog->isActiveWindow()) return dialog->activateWindow();
     met_ = true;
     if (!act_) fail(name + " came up.");
-    std::exchange(act_, {})();
+    QTimer::singleShot(0, std::exchange(act_, {}));  // outside the watch, which goes on for what the act brings up
 }
 
 namespace {
