@@ -36,11 +36,13 @@ void must(bool holds, const char* what) {
 /// What the boxes ask for, all of them, in the engine's own language; each list is a transaction.
 std::vector<std::vector<QString>> seasonByHand() {
     const QString stamps = "DateStamp = '2026-05-16', TimeStamp = 43200";
-    const auto players = [&](const char* set) { return QString("UPDATE tblRegistration SET %1, ").arg(stamps) + set; };
-    const auto marked = [&](const char* table) {
+    const auto players = [&](const char* set) -> QString {
+        return QString("UPDATE tblRegistration SET %1, ").arg(stamps) + set;
+    };
+    const auto marked = [&](const char* table) -> QString {
         return QString("UPDATE %1 SET %2, DeletedFlag = 1").arg(table, stamps);
     };
-    const auto ratings = [&](const char* set) {
+    const auto ratings = [&](const char* set) -> QString {
         return QString("UPDATE tblAbilityRating SET %1, DeletedFlag = 0, ").arg(stamps) + set;
     };
     const char* const ofVolunteers =
@@ -161,8 +163,7 @@ void measureArchive(Comparison& comparison, const QString& folder, int players) 
     comparison.addMeasured(
         {"restore: copy, unpack, check and swap", players, {}}, times,
         [=] {
-            return seconds(
-                [&] { must(restore(league->context, ours, league->files.path(), {}) == 0, "Restoring"); });
+            return seconds([&] { must(restore(league->context, ours, league->files.path(), {}) == 0, "Restoring"); });
         },
         [=] {
             return seconds([&] {
