@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QDialog>
-
-class Settings;
+#include "shell/ReminderForm.h"
 
 /// Reminds of the parents of a child that is saved without any, until the user does not want to hear it again.
-class frmGuardianReminder final : public QDialog {
+class frmGuardianReminder final : public ReminderForm {
     Q_OBJECT
 
 public:
