@@ -142,7 +142,8 @@ void Guide::watch() {
         seen_ = dialog;
         standing_.start();
     }
-    if (!dialog || dialog->objectName() == "frmStatusBar") return;  // which only shows how far some work has come
+    const QString what = dialog ? dialog->objectName() : QString();
+    if (!dialog || what == "frmStatusBar" || what == "runProgress") return;  // which only show how far some work is
     const auto* box = qobject_cast<QMessageBox*>(dialog);
     const QString name = "\"" + dialog->windowTitle() + (box ? "\" (" + box->text() + ')' : QString("\""));
     if (standing_.hasExpired(patience)) fail(name + " did not close.");
