@@ -14,19 +14,13 @@
 #include "schedule/frmImport.h"
 #include "setup/frmOptions.h"
 #include "setup/frmSetup.h"
-#include "shell/EmptyScreen.h"
 #include "shell/Program.h"
-#include "shell/ScreenTable.h"
 #include "shell/Screens.h"
 #include "shell/frmAbout.h"
 #include "shell/frmStartUp.h"
 
 void registerScreens(Program& program) {
     Screens& screens = program.screens;
-    for (const ScreenEntry& screen : screenTable) {
-        const QString name = screen.name;
-        screens.addScreen(name, [&program, name] { return std::make_unique<EmptyScreen>(program, name); });
-    }
     screens.addScreen("frmRatings", [&program] { return std::make_unique<frmRatings>(program); });
     screens.addScreen("frmEquipment", [&program] { return std::make_unique<frmEquipment>(program); });
     screens.addScreen("frmRegister", [&program] { return std::make_unique<frmRegister>(program); });

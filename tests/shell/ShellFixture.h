@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "shell/EmptyScreen.h"
+#include "shell/MainScreen.h"
 #include "shell/Program.h"
 #include "shell/ScreenTable.h"
 #include "shell/Screens.h"
@@ -56,7 +56,8 @@ struct Shell : testing::Test {
     Shell() {
         screens.addScreen("frmStartUp", [this] { return std::make_unique<frmStartUp>(program); });
         for (const QString name : {"frmRegister", "frmRatings", "frmEquipment", "frmResults", "frmReports"}) {
-            screens.addScreen(name, [this, name] { return std::make_unique<EmptyScreen>(program, name); });
+            screens.addScreen(name,
+                              [this, name] { return std::make_unique<MainScreen>(program, name, QSize(960, 640)); });
         }
         for (const QString name : {"frmTeams", "frmSetup"}) {
             screens.addScreen(name,
