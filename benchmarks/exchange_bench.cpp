@@ -5,7 +5,7 @@
 #include "RawFile.h"
 #include "SampleFile.h"
 #include "platform/text/Dates.h"
-#include "schedule/SchedulerImport.h"
+#include "schedule/exchange/SchedulerImport.h"
 
 // The import of a schedule beside the engine told to store the same games, cut at the commas.
 

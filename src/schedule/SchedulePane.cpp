@@ -189,11 +189,11 @@ bool SchedulePane::save() {
 }
 
 void SchedulePane::SaveScheduleGrid(const QString& division) {
-    std::vector<clsSchedule::Game> games;
+    std::vector<Game> games;
     for (const GridRow& row : grid_->rows())
         games.push_back({*parseDate(row.cells.value(Date)), row.cells.value(WeekDay), *parseTime(row.cells.value(Time)),
-                         row.cells.value(Visitors), row.cells.value(Home), row.cells.value(Field)});
-    schedule_.ReplaceDivisionSchedule(division, games, clsSchedule::Games::NotDeleted);
+                         division, row.cells.value(Visitors), row.cells.value(Home), row.cells.value(Field)});
+    schedule_.ReplaceDivisionSchedule(division, clsSchedule::Games::NotDeleted, games);
 }
 
 bool SchedulePane::offerToSaveBeforeClosing() {

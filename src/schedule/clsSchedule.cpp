@@ -33,22 +33,21 @@ void clsSchedule::DeleteDivisionSchedule(const QString& division, Games which) {
     const QString criteria = matches("division", division);
     database().execute(QStringLiteral("DELETE FROM tblSchedule WHERE ") +
                        (which == Games::All ? criteria : live(criteria)));
-    main().requery();
 }
 
-void clsSchedule::ReplaceDivisionSchedule(const QString& division, const std::vector<Game>& games, Games which) {
+void clsSchedule::ReplaceDivisionSchedule(const QString& division, Games replaced, const std::vector<Game>& games) {
     using datafile::Value;
     const Value today = datafile::fromDate(context().clock.today());
     const Value now{qint64{context().clock.secondsSinceMidnight()}};
-    const Value name{division};
     std::vector<datafile::Values> rows;
     rows.reserve(games.size());
     for (const Game& game : games)
         rows.push_back({datafile::fromDate(game.date), Value{game.day},
-                        datafile::fromTime(TimeOfDay::toMinute(game.time)), name, Value{game.visitorsTeam},
-                        Value{game.homeTeam}, Value{game.field}, today, now, datafile::fromFlag(false)});
+                        datafile::fromTime(TimeOfDay::toMinute(game.time)), Value{game.division},
+                        Value{game.visitorsTeam}, Value{game.homeTeam}, Value{game.field}, today, now,
+                        datafile::fromFlag(false)});
     datafile::Transaction transaction(database());
-    DeleteDivisionSchedule(division, which);
+    if (replaced != Games::None) DeleteDivisionSchedule(division, replaced);
     main().addRows({"Date", "Day", "Time", "division", "VisitorsTeam", "HomeTeam", "Field", "DateStamp", "TimeStamp",
                     "DeletedFlag"},
                    rows);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "schedule/Game.h"
 #include "store/RecordClass.h"
 
 /// One game to be played. Row of tblSchedule, which holds the names of division, teams and field as the schedule's
@@ -38,19 +39,11 @@ public:
     void UpdateScheduleRecord();
     void DeleteScheduleRecord() { deleteRecord(); }
 
-    enum class Games { All, NotDeleted };
-    /// Removes the division's games for good.
-    void DeleteDivisionSchedule(const QString& division, Games which = Games::All);
+    enum class Games { None, NotDeleted, All };
+    /// Puts these games in the place of the division's, of which those that `replaced` names are removed for good; what
+    /// AddNewScheduleRecord does for each game, fast enough for thousands. All of it is one transaction.
+    void ReplaceDivisionSchedule(const QString& division, Games replaced, const std::vector<Game>& games);
 
-    struct Game {
-        QDate date;
-        QString day;
-        QTime time;
-        QString visitorsTeam;
-        QString homeTeam;
-        QString field;
-    };
-    /// Puts these games in the place of the division's, in one transaction: DeleteDivisionSchedule, and what
-    /// AddNewScheduleRecord does for each game, fast enough for thousands.
-    void ReplaceDivisionSchedule(const QString& division, const std::vector<Game>& games, Games which);
+private:
+    void DeleteDivisionSchedule(const QString& division, Games which);
 };

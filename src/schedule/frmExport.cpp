@@ -3,7 +3,7 @@
 #include "platform/files/Files.h"
 #include "platform/widgets/ChoiceBox.h"
 #include "schedule/Instructions.h"
-#include "schedule/SchedulerFile.h"
+#include "schedule/exchange/SchedulerFile.h"
 #include "shell/Choices.h"
 #include "shell/Program.h"
 #include "shell/ReminderForm.h"

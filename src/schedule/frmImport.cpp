@@ -1,7 +1,7 @@
 #include "schedule/frmImport.h"
 
 #include "schedule/Instructions.h"
-#include "schedule/SchedulerImport.h"
+#include "schedule/exchange/SchedulerImport.h"
 #include "shell/Program.h"
 
 #include <QDialogButtonBox>

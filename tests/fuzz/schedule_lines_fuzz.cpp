@@ -1,4 +1,4 @@
-#include "schedule/ScheduleLines.h"
+#include "schedule/exchange/ScheduleLines.h"
 
 #include <cstdlib>
 

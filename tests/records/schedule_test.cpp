@@ -52,41 +52,30 @@ TEST_F(ScheduleTest, GamesAreKeptByNameAndMayStandTwice) {
     EXPECT_FALSE(game.FindScheduleRecord(99, true, true));
 }
 
-TEST_F(ScheduleTest, DivisionsGamesAreRemovedForGood) {
-    for (const char* division : {"Minors", "Minors", "Majors"}) add(division, QTime(9, 0));
-    ASSERT_TRUE(game.FindScheduleRecord(1, false, true));
-    game.DeleteScheduleRecord();
-    game.DeleteDivisionSchedule("minors", clsSchedule::Games::NotDeleted);
-    EXPECT_EQ(league.count("tblSchedule"), 2) << "the game deleted before stays";
-    EXPECT_TRUE(game.FindDivisionRecord("Minors")) << "and counts";
-    game.DeleteDivisionSchedule("Minors");
-    EXPECT_FALSE(game.FindDivisionRecord("Minors"));
-    EXPECT_TRUE(game.FindDivisionRecord("Majors"));
-    add("Minors", QTime(9, 0));
-    EXPECT_EQ(game.recordCount(), 2);
-}
-
 TEST_F(ScheduleTest, ScheduleOfADivisionIsReplacedAsAWhole) {
     for (const char* division : {"Minors", "Minors", "Majors"}) add(division, QTime(9, 0));
     ASSERT_TRUE(game.FindScheduleRecord(1, false, true));
     game.DeleteScheduleRecord();
-    const std::vector<clsSchedule::Game> games{
-        {saturday, "Saturday", QTime(10, 30, 44), "Hawks", "Owls", "Oak \"A\""},
-        {saturday.addDays(1), "", QTime(11, 0), "", "", ""}};
-    game.ReplaceDivisionSchedule("Minors", games, clsSchedule::Games::NotDeleted);
+    const std::vector<Game> games{{saturday, "Saturday", QTime(10, 30, 44), "Minors", "Hawks", "Owls", "Oak \"A\""},
+                                  {saturday.addDays(1), "", QTime(11, 0), "Minors", "", "", ""}};
+    game.ReplaceDivisionSchedule("minors", clsSchedule::Games::NotDeleted, games);
     EXPECT_EQ(league.count("SELECT * FROM tblSchedule WHERE [division] = \"Minors\""), 3) << "with the deleted one";
-    ASSERT_TRUE(
-        game.FindScheduleMergeRecord(saturday, "Saturday", QTime(10, 30), "Minors", "Hawks", "Owls", "Oak \"A\"", true));
+    ASSERT_TRUE(game.FindScheduleMergeRecord(saturday, "Saturday", QTime(10, 30), "Minors", "Hawks", "Owls",
+                                             "Oak \"A\"", true));
     EXPECT_EQ(game.ScheduleStamps.DateStamp(), QDate(2026, 4, 22));
     EXPECT_EQ(game.ScheduleStamps.TimeStamp, 12 * 3600);
     EXPECT_FALSE(game.ScheduleStamps.DeletedFlag);
     EXPECT_EQ(game.recordCount(), 4);
-    const clsSchedule::Game tooLong{saturday, "", QTime(9, 0), QString(36, u'x'), "", ""};
-    EXPECT_THROW(game.ReplaceDivisionSchedule("Minors", {games[0], tooLong}, clsSchedule::Games::All),
-                 datafile::Error);
+    const Game tooLong{.date = saturday, .time = QTime(9, 0), .visitorsTeam = QString(36, u'x')};
+    EXPECT_THROW(game.ReplaceDivisionSchedule("Minors", clsSchedule::Games::All, {games[0], tooLong}), datafile::Error);
     EXPECT_EQ(league.count("tblSchedule"), 4) << "nothing has changed";
-    game.ReplaceDivisionSchedule("Minors", {}, clsSchedule::Games::All);
-    EXPECT_EQ(league.count("tblSchedule"), 1);
+    game.ReplaceDivisionSchedule("Minors", clsSchedule::Games::NotDeleted, {});
+    EXPECT_TRUE(game.FindDivisionRecord("Minors")) << "the deleted one counts";
+    game.ReplaceDivisionSchedule("Minors", clsSchedule::Games::All, {});
+    EXPECT_FALSE(game.FindDivisionRecord("Minors"));
+    EXPECT_TRUE(game.FindDivisionRecord("Majors"));
+    game.ReplaceDivisionSchedule("Majors", clsSchedule::Games::None, games);
+    EXPECT_EQ(game.recordCount(), 3);
 }
 
 class ResultsTest : public testing::Test {

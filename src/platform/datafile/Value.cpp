@@ -16,6 +16,11 @@ int digits(QStringView text, qsizetype at, qsizetype count) {
     return number;
 }
 
+/// Writes the number's digits so that the last one stands before `end`.
+void write(QString& text, qsizetype end, int number) {
+    for (; number > 0; number /= 10) text[--end] = QChar(u'0' + number % 10);
+}
+
 }  // namespace
 
 QString toText(const Value& value) {
@@ -71,15 +76,19 @@ Value fromDate(const QDate& date) {
     date.getDate(&year, &month, &day);
     if (year < 1 || year > 9999) return {};
     QString text(QStringLiteral("0000-00-00"));
-    const auto write = [&text](qsizetype end, int number) {
-        for (; number > 0; number /= 10) text[--end] = QChar(u'0' + number % 10);
-    };
-    write(4, year);
-    write(7, month);
-    write(10, day);
+    write(text, 4, year);
+    write(text, 7, month);
+    write(text, 10, day);
     return text;
 }
 
-Value fromTime(const QTime& time) { return time.isValid() ? Value{time.toString(Qt::ISODate)} : Value{}; }
+Value fromTime(const QTime& time) {
+    if (!time.isValid()) return {};
+    QString text(QStringLiteral("00:00:00"));
+    write(text, 2, time.hour());
+    write(text, 5, time.minute());
+    write(text, 8, time.second());
+    return text;
+}
 
 }  // namespace datafile

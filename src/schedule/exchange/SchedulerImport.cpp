@@ -1,4 +1,4 @@
-#include "schedule/SchedulerImport.h"
+#include "schedule/exchange/SchedulerImport.h"
 
 #include "schedule/clsSchedule.h"
 
@@ -13,22 +13,23 @@ QString tr(const char* text) { return QCoreApplication::translate("SchedulerImpo
 }  // namespace
 
 void SchedulerImport::ImportScheduleFile(const QStringList& lines) {
+    clsSchedule schedule(context_);
     QString division;
-    std::optional<QString> replaced;
+    auto replaced = clsSchedule::Games::None;
     bool refused = false;
     if (lines.isEmpty()) {
         context_.dialogs.warning(tr("No Data Available..."),
                                  tr("The import file was empty.") + u'\n' + tr("Aborting import."));
     } else {
         division = divisionOf(lines.front());
-        if (clsSchedule(context_).FindDivisionRecord(division)) {
+        if (schedule.FindDivisionRecord(division)) {
             refused = !mayReplace(division);
-            replaced = division;
+            replaced = clsSchedule::Games::All;
         }
     }
     if (!refused) {
         judge(lines.isEmpty() ? QStringList(QString()) : lines);
-        store(replaced);
+        schedule.ReplaceDivisionSchedule(division, replaced, games_);
     }
     context_.dialogs.information(tr("Import Finished"),
                                  tr("There were %1 records for division \"%2\"").arg(count_).arg(division) + u'\n' +
@@ -80,21 +81,4 @@ BoxAnswer SchedulerImport::tell(LineFault fault, BoxButtons buttons) const {
     }
     return context_.dialogs.box(BoxKind::Warning, buttons, title,
                                 text + QStringLiteral("\n\n") + tr("Aborting File Import."));
-}
-
-void SchedulerImport::store(const std::optional<QString>& replaced) {
-    datafile::Transaction transaction(context_.workspace.openDatabase(context_.dataFilePath));
-    clsSchedule schedule(context_);
-    if (replaced) schedule.DeleteDivisionSchedule(*replaced);
-    for (const Game& game : games_) {
-        schedule.ScheduleDate = game.date;
-        schedule.ScheduleDay = game.day;
-        schedule.ScheduleTime = game.time;
-        schedule.ScheduleDivision = game.division;
-        schedule.ScheduleVisitorsTeam = game.visitorsTeam;
-        schedule.ScheduleHomeTeam = game.homeTeam;
-        schedule.ScheduleField = game.field;
-        schedule.AddNewScheduleRecord();
-    }
-    transaction.commit();
 }

@@ -1,4 +1,4 @@
-#include "schedule/SchedulerFile.h"
+#include "schedule/exchange/SchedulerFile.h"
 
 #include "league/clsDivision.h"
 #include "league/clsFieldInfo.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "schedule/ScheduleLines.h"
+#include "schedule/exchange/ScheduleLines.h"
 #include "store/StoreContext.h"
 
 #include <vector>
@@ -21,7 +21,6 @@ private:
     void judge(const QStringList& lines);
     void stayOn(LineFault fault);
     BoxAnswer tell(LineFault fault, BoxButtons buttons) const;
-    void store(const std::optional<QString>& replaced);
 
     StoreContext& context_;
     std::vector<Game> games_;

@@ -1,22 +1,12 @@
 #pragma once
 
-#include <QDate>
-#include <QString>
 #include <QStringList>
 #include <optional>
 
+#include "schedule/Game.h"
+
 // The file in which the outside scheduler hands back one division's games (.kmo): a line a game, seven columns cut at
 // commas, without quoting.
-
-struct Game {
-    QDate date;
-    QString day;
-    QTime time;
-    QString division;
-    QString visitorsTeam;
-    QString homeTeam;
-    QString field;
-};
 
 enum class LineFault { None, Date, Day, Time };
 
