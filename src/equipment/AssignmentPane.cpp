@@ -88,8 +88,8 @@ void AssignmentPane::showAssignment() {
     if (entry_.assignTo == ToPlayer) entry_.jerseyNumber = holder_ ? players_.PlayerJerseyNumber() : QString();
     LoadAssignedItems();
     ShowEquipmentAvailable();
-    const bool found = holder_ && itemId_ != 0 && assignment_.FindAssignmentRecord(*holder_, itemId_, false, true);
-    if (found) {
+    isAssigned_ = holder_ && itemId_ != 0 && assignment_.FindAssignmentRecord(*holder_, itemId_, false, true);
+    if (isAssigned_) {
         entry_.given = assignment_.DistributionQuantity;
         entry_.givenOn = assignment_.DistributionDate;
         entry_.returned = assignment_.ReturnQuantity;
@@ -98,7 +98,7 @@ void AssignmentPane::showAssignment() {
         blankQuantities();
     }
     form_->refresh();
-    setEditing(isEditing() && !found);
+    setEditing(isEditing() && !isAssigned_);
 }
 
 void AssignmentPane::blankQuantities() {

@@ -22,7 +22,7 @@ class AssignmentPane final : public ScreenPane {
 public:
     explicit AssignmentPane(Program& program);
 
-    bool canDelete() const override { return !isEditing() && itemId_ != 0; }
+    bool canDelete() const override { return !isEditing() && isAssigned_; }
     bool save() override;
     void remove() override;
     void cancel() override;
@@ -77,12 +77,12 @@ private:
     void addHolderProblems(std::vector<Problem>& problems);
     bool ValidateAssignment();
     void write();
-    void rebuild();
     void setEditing(bool editing) override;
 
     Entry entry_;
     std::optional<EquipmentHolder> holder_;
     int itemId_ = 0;
+    bool isAssigned_ = false;  ///< the holder has of the item
     clsEquipmentAssignment::Available available_;
     QHash<QString, int> offered_;  ///< ids of the items in the list, by their entries
     clsDivision divisions_;

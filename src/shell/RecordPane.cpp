@@ -93,7 +93,7 @@ void RecordPane::show(int index) {
     const QString wanted = search_->entryAt(index);
     if (index >= 0 && !find(wanted)) {
         readList();
-        Q_EMIT said(tr("Record \"%1\" is no longer there.").arg(wanted));
+        Q_EMIT said(tr("Record \"%1\" was not found.").arg(wanted));
         index = search_->entryCount() > 0 ? 0 : -1;
         if (index >= 0 && !find(search_->entryAt(index))) index = -1;
     }
@@ -191,8 +191,12 @@ void RecordPane::placeInList(const QString& before) {
         if (!text().namesRepeat) drop(saved);  // written otherwise, or the record that this one went over
         search_->insertEntry(saved, listLess);
     }
-    if (!find(saved)) program().dialogs().warning(tr("Error!"), text().missingText);
-    show(search_->indexOf(saved));
+    if (find(saved)) {
+        show(search_->indexOf(saved));
+    } else {
+        program().dialogs().warning(tr("Error!"), text().missingText);
+        showBlank();
+    }
     noteChanges();
 }
 

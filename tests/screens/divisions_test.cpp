@@ -249,7 +249,7 @@ TEST_F(DivisionsTest, FailedRenameLeavesScheduleAndDivisionTogether) {
     press(screen, "cmdSave");
     EXPECT_EQ(running.league.value("tblSchedule", "division"), "Majors");
     press(screen, "cmdCancel");
-    EXPECT_EQ(status(screen), "Record \"Majors\" is no longer there.");
+    EXPECT_EQ(status(screen), "Record \"Majors\" was not found.");
     EXPECT_EQ(shown("txtDivName"), "Minors");
 }
 

@@ -68,6 +68,11 @@ TEST_F(EquipmentTest, AnItemIsEnteredWithVendorAndInsuranceByName) {
     press(screen, "cmdSave");
     EXPECT_EQ(status(screen), "Record \"Bat\" Added.") << "the same words after an update";
     EXPECT_EQ(chosen("cboVendorId"), "Sports \"R\" We");
+    type(screen, "txtItemName", "T-Ball");
+    dialogs.expectWarning("Error!", "Error!  Equipment Name not found in Search List");
+    press(screen, "cmdSave");
+    EXPECT_EQ(status(screen), "Record \"T-Ball\" Added.") << "though the list does not find it";
+    EXPECT_EQ(shown("txtItemName"), "");
 }
 
 TEST_F(EquipmentTest, AnItemGoesAndItsAssignmentsStay) {
@@ -199,6 +204,7 @@ TEST_F(EquipmentAssignmentTest, AnItemThatIsAllOutComesBackThroughTheGrid) {
     EXPECT_EQ(control<ChoiceBox>(screen, "cboEquipmentList")->indexOf("Bat - Wood"), -1);
     choose("cboEquipmentList", "Ball - Hard");
     EXPECT_EQ(label("lblTotalAvailable") + ' ' + label("lblQuantityAvailable"), "5 5");
+    EXPECT_FALSE(control(screen, "cmdDelete")->isEnabled()) << "nothing of it is here";
     Q_EMIT grid()->rowPicked(0);
     EXPECT_EQ(chosen("cboEquipmentList"), "Bat - Wood");
     EXPECT_EQ(shown("txtDistributionQuantity"), "3");
