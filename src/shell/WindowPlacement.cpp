@@ -11,7 +11,8 @@ namespace {
 
 enum State { Normal = 0, Minimised = 1, Maximised = 2 };
 
-constexpr int grip = 48;  ///< of the title bar, so much must be in reach for the window to stay where it was
+constexpr int grip = 48;        ///< of the title bar, so much must be in reach for the window to stay where it was
+constexpr int frameAbove = 30;  ///< what stands above the window's own area, on the desktops that we know
 
 /// The area of the monitor on which the window can be seen and taken hold of, if there is one.
 QRect areaAround(const QRect& wanted) {
@@ -41,7 +42,7 @@ void WindowPlacement::restore(QWidget& window, QSize designSize, QSize minimum) 
     window.setMinimumSize(minimum);
     QRect design(QPoint(), designSize);
     design.moveCenter(desktop.center());
-    design = broughtIntoView(design, desktop);
+    design = broughtIntoView(design, desktop.adjusted(0, frameAbove, 0, 0));
     QRect wanted(qRound(number("Left", design.left())), qRound(number("Top", design.top())),
                  qRound(number("Width", design.width())), qRound(number("Height", design.height())));
     wanted.setSize(wanted.size().expandedTo(minimum));

@@ -273,13 +273,14 @@ bool Grid::goOn(int direction) {
 }
 
 bool Grid::handleKey(const QKeyEvent& event) {
+    const bool changesTab = event.modifiers() & Qt::ControlModifier;
     switch (event.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
             if (!goOn(1)) settle();
             return true;
-        case Qt::Key_Tab: return goOn(1);
-        case Qt::Key_Backtab: return goOn(-1);
+        case Qt::Key_Tab: return !changesTab && goOn(1);
+        case Qt::Key_Backtab: return !changesTab && goOn(-1);
         case Qt::Key_Escape:
             if (text(currentIndex().row(), currentIndex().column()) == entered_) return false;
             restore();
