@@ -174,6 +174,7 @@ void ResultsPane::addNew() {
 void ResultsPane::noteEdit(const QString& field) {
     if (field == QLatin1String(dateField)) return;  // looked up when it is whole
     if (field == QLatin1String(homeField) || field == QLatin1String(visitorField)) return ShowResultForTeams();
+    if (results_.GameId == 0) results_.SetIsResultNew(true);  // begun by typing; teams chosen later leave it as it is
     results_.SetIsResultDirty(true);
     setEditing(true);
 }

@@ -90,6 +90,11 @@ TEST_F(ResultsScreenTest, TwoTeamsAndADateBringUpTheirFirstGame) {
     EXPECT_EQ(fields(), "|||");
     EXPECT_EQ(text("dtpGameDate"), "04/18/26");
     EXPECT_FALSE(isEnabled("cmdDelete"));
+    type(screen, "mskedGameTime", "2pm");
+    select("cboVisitorTeam", "Owls");
+    EXPECT_EQ(fields(), "2pm|||") << "a game begun without a word is a new one";
+    press(screen, "cmdCancel");
+    EXPECT_EQ(fields(), "|||");
     press(screen, "cmdAdd");
     EXPECT_EQ(text("dtpGameDate"), "04/22/26");
     EXPECT_TRUE(control(screen, "dtpGameDate")->hasFocus());
