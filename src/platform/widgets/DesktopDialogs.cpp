@@ -79,6 +79,15 @@ std::optional<QString> pickFile(const FileRequest& request, QFileDialog::AcceptM
     return dialog.selectedFiles().value(0);
 }
 
+/// The lines of a text stay as they were written where the monitor is wide enough for them.
+void keepLines(QMessageBox& message) {
+    auto* label = message.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!label || !message.text().contains(u'\n')) return;
+    label->setWordWrap(false);  // until the box is shown
+    const int widest = label->sizeHint().width();
+    if (widest < message.screen()->availableSize().width() / 2) label->setMinimumWidth(widest);
+}
+
 /// A text of very many lines scrolls, so that the buttons stay on the screen.
 void scrollLongText(QMessageBox& message) {
     constexpr int mostLines = 20;
@@ -104,13 +113,15 @@ DesktopDialogs::DesktopDialogs() { Q_INIT_RESOURCE(message); }
 BoxAnswer DesktopDialogs::box(BoxKind kind, BoxButtons buttons, const QString& title, const QString& text) {
     const UsualCursor cursor;
     const Buttons offered = buttonsOf(buttons);
-    const bool destroys = buttons == BoxButtons::YesNo && title.contains(QStringLiteral("Delete"), Qt::CaseInsensitive);
+    const bool destroys =
+        buttons == BoxButtons::YesNo && QString(title + text).contains(QStringLiteral("delete"), Qt::CaseInsensitive);
     QMessageBox message(QMessageBox::NoIcon, title, text, offered.all, QApplication::activeWindow());
     message.setIconPixmap(QIcon(pictureOf(kind)).pixmap(QSize(40, 40), message.devicePixelRatioF()));
     for (QAbstractButton* button : message.buttons()) button->setIcon({});
     message.setTextFormat(Qt::PlainText);
     message.setDefaultButton(destroys ? offered.closing : offered.usual);
     message.setEscapeButton(offered.closing);
+    keepLines(message);
     scrollLongText(message);
     return answerOf(message.exec());
 }
