@@ -24,6 +24,11 @@ Application::Application(int& argumentCount, char** arguments, Dialogs& dialogs)
     setDesktopFileName("kestrelmoor");
     setWindowIcon(shellIcon("kestrelmoor"));
     setQuitOnLastWindowClosed(false);  // the register of screens ends the program
+    QColor faint = palette().color(QPalette::Text);  // not every dark desktop has a colour of its own for hints
+    faint.setAlphaF(0.5F);
+    QPalette hints;
+    hints.setColor(QPalette::PlaceholderText, faint);
+    setPalette(hints);
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
