@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
@@ -107,7 +108,8 @@ Grid* ResultsPane::makeGrid() {
 /// In a narrow window the grid gives way: the form scrolls up and down only.
 void ResultsPane::showEvent(QShowEvent* event) {
     GamesPane::showEvent(event);
-    form_->setMinimumWidth(form_->findChild<QScrollArea*>()->widget()->minimumSizeHint().width());
+    const auto* view = form_->findChild<QScrollArea*>();
+    form_->setMinimumWidth(view->widget()->minimumSizeHint().width() + view->verticalScrollBar()->sizeHint().width());
 }
 
 void ResultsPane::showDivision(Shown how) {

@@ -85,7 +85,7 @@ void keepLines(QMessageBox& message) {
     if (!label || !message.text().contains(u'\n')) return;
     label->setWordWrap(false);  // until the box is shown
     const int widest = label->sizeHint().width();
-    if (widest < message.screen()->availableSize().width() / 2) label->setMinimumWidth(widest);
+    if (widest < message.screen()->availableSize().width() * 3 / 4) label->setMinimumWidth(widest);
 }
 
 /// A text of very many lines scrolls, so that the buttons stay on the screen.
