@@ -1,14 +1,12 @@
 #include "platform/datafile/Connection.h"
 
 #include "platform/datafile/DataFile.h"
-#include "platform/datafile/TableSql.h"
-#include "platform/text/Collation.h"
+#include "platform/datafile/SqlFunctions.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QVarLengthArray>
 #include <QtEndian>
 #include <cerrno>
 #include <sqlite3.h>
@@ -22,37 +20,6 @@ QString tr(const char* text) { return QCoreApplication::translate("datafile", te
 
 constexpr int lockWaitMilliseconds = 2000;
 constexpr int mostIdleStatements = 400;
-
-/// Texts joined, nothing read as "".
-void joined(sqlite3_context* context, int count, sqlite3_value** values) {
-    QVarLengthArray<char, 256> text;
-    for (int i = 0; i < count; ++i) {
-        const int size = sqlite3_value_bytes(values[i]);
-        text.append(static_cast<const char*>(sqlite3_value_blob(values[i])), size);
-    }
-    sqlite3_result_text(context, text.constData(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
-}
-
-/// "2026-04-02" as "4/2/2026"; what is no date stays as it is.
-void shortDate(sqlite3_context* context, int, sqlite3_value** values) {
-    const int size = sqlite3_value_bytes(values[0]);
-    const auto* iso = static_cast<const char*>(sqlite3_value_blob(values[0]));
-    if (size < 10 || iso[4] != '-' || iso[7] != '-') return sqlite3_result_value(context, values[0]);
-    char text[11];
-    int at = 0;
-    for (const int part : {5, 8}) {
-        if (iso[part] != '0') text[at++] = iso[part];
-        text[at++] = iso[part + 1];
-        text[at++] = '/';
-    }
-    for (int i = 0; i < 4; ++i) text[at++] = iso[i];
-    sqlite3_result_text(context, text, at, SQLITE_TRANSIENT);
-}
-
-int compareAsNames(void*, int leftSize, const void* left, int rightSize, const void* right) {
-    return compareNames({static_cast<const char*>(left), static_cast<size_t>(leftSize)},
-                        {static_cast<const char*>(right), static_cast<size_t>(rightSize)});
-}
 
 Fault faultOf(int code) {
     switch (code & 0xff) {
@@ -92,60 +59,6 @@ QString explain(Fault fault, const QString& path) {
 
 }  // namespace
 
-Statement::Statement(Connection& connection, const QString& sql)
-    : connection_(connection), sql_(sql), statement_(connection.take(sql)) {}
-
-Statement::~Statement() { connection_.giveBack(sql_, statement_); }
-
-Statement& Statement::bind(const Value& value) {
-    ++bound_;
-    if (const auto* text = std::get_if<QString>(&value)) {
-        const QByteArray bytes = text->toUtf8();
-        sqlite3_bind_text(statement_, bound_, bytes.constData(), static_cast<int>(bytes.size()), SQLITE_TRANSIENT);
-    } else if (const auto* number = std::get_if<qint64>(&value)) {
-        sqlite3_bind_int64(statement_, bound_, *number);
-    } else if (const auto* real = std::get_if<double>(&value)) {
-        sqlite3_bind_double(statement_, bound_, *real);
-    } else {
-        sqlite3_bind_null(statement_, bound_);
-    }
-    return *this;
-}
-
-Statement& Statement::bind(const Values& values, size_t from, size_t count) {
-    for (size_t i = from; i < values.size() && i - from < count; ++i) bind(values[i]);
-    return *this;
-}
-
-bool Statement::step() {
-    const int code = sqlite3_step(statement_);
-    if (code == SQLITE_ROW) return true;
-    if (code != SQLITE_DONE) connection_.raise(sqlite3_extended_errcode(connection_.handle_), sql_);
-    return false;
-}
-
-int Statement::columns() const { return sqlite3_column_count(statement_); }
-QString Statement::name(int column) const { return QString::fromUtf8(sqlite3_column_name(statement_, column)); }
-QString Statement::declaredType(int column) const {
-    return QString::fromUtf8(sqlite3_column_decltype(statement_, column));
-}
-qint64 Statement::number(int column) const { return sqlite3_column_int64(statement_, column); }
-
-QString Statement::text(int column) const {
-    const int size = sqlite3_column_bytes(statement_, column);  // makes it UTF-8; what follows need not end it with a 0
-    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement_, column));
-    return QString::fromUtf8(bytes ? bytes : "", size);
-}
-
-Value Statement::value(int column) const {
-    switch (sqlite3_column_type(statement_, column)) {
-        case SQLITE_INTEGER: return qint64{sqlite3_column_int64(statement_, column)};
-        case SQLITE_FLOAT: return sqlite3_column_double(statement_, column);
-        case SQLITE_NULL: return {};
-        default: return text(column);
-    }
-}
-
 Connection::Connection(QString path, bool mustExist) : path_(std::move(path)) { open(mustExist); }
 
 Connection::~Connection() { close(); }
@@ -181,11 +94,7 @@ void Connection::configure() {
                              SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_VIEW})
         sqlite3_db_config(handle_, option, 0, nullptr);
     sqlite3_db_config(handle_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-    constexpr int kind = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY;
-    sqlite3_create_function(handle_, "joined", -1, kind, nullptr, joined, nullptr, nullptr);
-    sqlite3_create_function(handle_, "shortdate", 1, kind, nullptr, shortDate, nullptr, nullptr);
-    // For the order of queries alone: a file whose indexes or columns used it could be read by no other tool.
-    sqlite3_create_collation(handle_, "Names", SQLITE_UTF8, nullptr, compareAsNames);
+    sql::addFunctions(handle_);
     for (const char* pragma : {"foreign_keys = ON", "synchronous = EXTRA", "temp_store = MEMORY", "cache_size = -16000",
                                "cell_size_check = ON", "locking_mode = NORMAL", "journal_mode = DELETE"})
         Statement(*this, QStringLiteral("PRAGMA ") + QLatin1String(pragma)).run();
@@ -275,88 +184,6 @@ void Connection::raise(int code, const QString& sql) {
         fault = Fault::Full;
     if (depth_ > 0 && handle_ && sqlite3_get_autocommit(handle_)) ended_ = fault;
     throw Error(fault, fault == Fault::Statement ? QString(message + u'\n' + sql) : explain(fault, path_));
-}
-
-QStringList Connection::tableNames() {
-    if (!namesKnown_) {
-        tableNames_.clear();
-        Statement names(*this, QStringLiteral("SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE "
-                                              "'sqlite^_%' ESCAPE '^' ORDER BY name"));
-        while (names.step()) tableNames_ << names.text(0);
-        for (const QString& name : std::as_const(tableNames_)) tables_.insert(name.toLower(), nullptr);
-        namesKnown_ = true;
-    }
-    return tableNames_;
-}
-
-void Connection::forgetSchema() {
-    dropStatements();  // their columns are those of the old schema
-    tables_.clear();
-    namesKnown_ = false;
-}
-
-/// The engine's own way of adding a column reads all rows of a table with rules, for each column anew.
-void Connection::rewriteDefinition(const QString& table, const QString& text) {
-    const auto run = [this](const QString& pragma) {
-        const int code = sqlite3_exec(handle_, QString(QStringLiteral("PRAGMA ") + pragma).toUtf8().constData(),
-                                      nullptr, nullptr, nullptr);
-        if (code != SQLITE_OK) raise(sqlite3_extended_errcode(handle_), pragma);
-    };
-    const auto protect = [this](int on) { sqlite3_db_config(handle_, SQLITE_DBCONFIG_DEFENSIVE, on, nullptr); };
-    protect(0);
-    try {
-        run(QStringLiteral("writable_schema = ON"));
-        Statement(*this, QStringLiteral("UPDATE sqlite_schema SET sql = ? WHERE type = 'table' AND name = ?"))
-            .bind(Value{text})
-            .bind(Value{table})
-            .run();
-        Statement version(*this, QStringLiteral("PRAGMA schema_version"));
-        version.step();
-        run(QStringLiteral("schema_version = %1").arg(version.number(0) + 1));
-    } catch (...) {
-        sqlite3_exec(handle_, "PRAGMA writable_schema = OFF", nullptr, nullptr, nullptr);
-        protect(1);
-        throw;
-    }
-    forgetSchema();
-    protect(1);
-    run(QStringLiteral("writable_schema = RESET"));
-}
-
-const TableDef* Connection::table(const QString& name) {
-    tableNames();
-    const auto found = tables_.find(name.toLower());
-    if (found == tables_.end()) return nullptr;
-    if (!found.value()) found.value() = std::make_shared<TableDef>(readTable(name));
-    return found.value().get();
-}
-
-TableDef Connection::readTable(const QString& name) {
-    Statement head(
-        *this, QStringLiteral("SELECT name, sql FROM sqlite_schema WHERE type = 'table' AND name = ? COLLATE NOCASE"));
-    head.bind(Value{name}).step();
-    TableDef table{.name = head.text(0)};
-    const QString text = head.text(1);
-    Statement columns(*this,
-                      QStringLiteral("SELECT name, type, \"notnull\", dflt_value, pk FROM pragma_table_info(?)"));
-    columns.bind(Value{table.name});
-    while (columns.step())
-        table.fields << sql::readColumn(columns.text(0), columns.text(1), columns.number(2) != 0,
-                                        isNull(columns.value(3)) ? QString() : columns.text(3), columns.number(4) != 0,
-                                        text);
-    Statement indexes(
-        *this, QStringLiteral("SELECT name, \"unique\" FROM pragma_index_list(?) WHERE origin = 'c' ORDER BY name"));
-    indexes.bind(Value{table.name});
-    while (indexes.step()) {
-        IndexDef index{indexes.text(0).mid(table.name.size() + 1), {}, false, indexes.number(1) != 0};
-        index.primary = index.unique && index.name == QLatin1String("PrimaryKey");
-        Statement parts(*this, QStringLiteral("SELECT name FROM pragma_index_info(?) ORDER BY seqno"));
-        parts.bind(Value{indexes.text(0)});
-        while (parts.step()) index.fields << parts.text(0);
-        table.indexes << index;
-    }
-    table.relations = sql::readRelations(table.name, text);
-    return table;
 }
 
 void Connection::begin(bool schema) {

@@ -93,6 +93,7 @@ private:
         bool own;  ///< a column of the table, as against an expression
     };
 
+    [[noreturn]] static void refuseRemoved();
     void open();
     void refreshAfterReplacement();
     void describe();
