@@ -1,6 +1,5 @@
 #include "store/BaseFile.h"
 
-#include "platform/files/Files.h"
 #include "store/Schema.h"
 
 #include <QFile>
@@ -39,26 +38,16 @@ void addBaseRows(const datafile::Database& database, const QString& table,
 }
 
 void makeBaseFile(const QString& path) {
-    const QString made = files::temporaryName(path);
-    try {
-        {
-            datafile::Workspace workspace;
-            const datafile::Database database = workspace.createDatabase(made);
-            datafile::Transaction transaction(database, datafile::Transaction::Kind::Schema);
-            for (const datafile::TableDef& table : schema::tables()) database.createTable(table);
-            for (const QString& table : baseTables().keys()) addBaseRows(database, table);
-            datafile::Recordset version = database.openRecordset(QStringLiteral("tblVersion"));
-            version.addNew();
-            version.set(QStringLiteral("DBVersion"), datafile::Value{GetCurrentDBVersion()});
-            version.update();
-            transaction.commit();
-        }
-        files::replaceWith(made, path);
-    } catch (const files::Error& error) {
-        QFile::remove(made);
-        throw datafile::Error(datafile::Fault::InputOutput, error.text());
-    } catch (...) {
-        QFile::remove(made);
-        throw;
-    }
+    datafile::Workspace::createWhole(path, [](const QString& made) {
+        datafile::Workspace workspace;
+        const datafile::Database database = workspace.createDatabase(made);
+        datafile::Transaction transaction(database, datafile::Transaction::Kind::Schema);
+        for (const datafile::TableDef& table : schema::tables()) database.createTable(table);
+        for (const QString& table : baseTables().keys()) addBaseRows(database, table);
+        datafile::Recordset version = database.openRecordset(QStringLiteral("tblVersion"));
+        version.addNew();
+        version.set(QStringLiteral("DBVersion"), datafile::Value{GetCurrentDBVersion()});
+        version.update();
+        transaction.commit();
+    });
 }

@@ -71,16 +71,8 @@ void makeSampleLeague(const QString& path, const SampleOptions& options) {
     const QString folder = QFileInfo(path).absolutePath();
     if (!QFileInfo(folder).isDir())
         throw datafile::Error(datafile::Fault::NotFound, QString("There is no folder %1.").arg(folder));
-    const QString made = files::temporaryName(path);
-    try {
+    datafile::Workspace::createWhole(path, [&](const QString& made) {
         makeBaseFile(made);
         sample::fill(made, wanted);
-        files::replaceWith(made, path);
-    } catch (const files::Error& error) {
-        QFile::remove(made);
-        throw datafile::Error(datafile::Fault::InputOutput, error.text());
-    } catch (...) {
-        QFile::remove(made);
-        throw;
-    }
+    });
 }

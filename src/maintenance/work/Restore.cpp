@@ -5,19 +5,9 @@
 #include "maintenance/work/Backup.h"
 #include "maintenance/work/Codes.h"
 #include "platform/datafile/DataFile.h"
+#include "store/CorrectVersion.h"
 
 namespace {
-
-/// A file under a name of its own, of which nothing stays.
-struct Scrap {
-    explicit Scrap(const QString& beside) : path(files::temporaryName(beside)) {}
-    ~Scrap() {
-        for (const char* rest : {"", "-journal", "-wal", "-shm"}) QFile::remove(path + QLatin1String(rest));
-    }
-    Scrap(const Scrap&) = delete;
-    Scrap& operator=(const Scrap&) = delete;
-    const QString path;
-};
 
 [[noreturn]] void passOn(const files::Error& error) {
     throw datafile::Error(error.full()       ? datafile::Fault::Full
@@ -44,7 +34,7 @@ bool makeCopy(StoreContext& context) {
 }
 
 void putCopyBack(StoreContext& context) {
-    const Scrap made(context.dataFilePath);
+    const datafile::Scrap made(context.dataFilePath);
     files::copyWhole(safetyCopyPath(context), made.path);
     context.workspace.replaceDatabase(context.dataFilePath, made.path);
 }
@@ -68,7 +58,7 @@ bool holdsLeague(StoreContext& context, const QString& path) {
 void putInPlace(StoreContext& context, const QString& made, const QString& home, bool hasCopy) {
     const QString& path = context.dataFilePath;
     const bool together = QFileInfo(home) == QFileInfo(path) || files::sameFile(home, path);
-    const Scrap beside(path);
+    const datafile::Scrap beside(path);
     if (!together) files::copyWhole(made, beside.path);
     if (!together) context.workspace.replaceDatabase(home, made);
     try {
@@ -87,7 +77,7 @@ int restore(StoreContext& context, const QString& archive, const QString& homeFo
     try {
         try {
             const bool hasCopy = makeCopy(context);
-            const Scrap made(home);
+            const datafile::Scrap made(home);
             if (const archive::Fault fault = unpackDataFile(context, archive, made.path, progress);
                 fault != archive::Fault::None)
                 return restoreCode(fault);

@@ -19,6 +19,15 @@ constexpr qsizetype applicationIdAt = 68;
 
 }  // namespace
 
+Scrap::~Scrap() {
+    QFile::remove(path);
+    removeSidecars(path);
+}
+
+void removeSidecars(const QString& path) {
+    for (const char* sidecar : {"-journal", "-wal", "-shm"}) QFile::remove(path + QLatin1String(sidecar));
+}
+
 void inspectDataFile(const QString& path) {
     const QString name = QDir::toNativeSeparators(path);
     const QFileInfo about(path);

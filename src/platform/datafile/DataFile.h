@@ -9,6 +9,19 @@ namespace datafile {
 /// Marks a file as a Kestrelmoor data file, in the header field that is meant for it ("KSTR").
 inline constexpr int applicationId = 0x4b535452;
 
+/// A data file under a name of its own beside another, of which nothing stays when the object ends.
+struct Scrap {
+    explicit Scrap(const QString& beside) : path(files::temporaryName(beside)) {}
+    ~Scrap();
+    Scrap(const Scrap&) = delete;
+    Scrap& operator=(const Scrap&) = delete;
+
+    const QString path;
+};
+
+/// Removes what the engine may have left beside a data file.
+void removeSidecars(const QString& path);
+
 /// Raises Error when there is no file, or one that is not ours (by its header; nothing is opened or written).
 void inspectDataFile(const QString& path);
 

@@ -19,14 +19,19 @@ namespace {
 QString tr(const char* text) { return QCoreApplication::translate("datafile", text); }
 QString keyOf(const QString& path) { return QDir::cleanPath(QFileInfo(path).absoluteFilePath()); }
 
-/// A journal left beside a file that another takes the place of would be played into that other.
-void removeSidecars(const QString& path) {
-    for (const char* sidecar : {"-journal", "-wal", "-shm"}) QFile::remove(path + QLatin1String(sidecar));
-}
-
 [[noreturn]] void passOn(const files::Error& error) {
     const Fault fault = error.full() ? Fault::Full : error.readOnly() ? Fault::ReadOnly : Fault::InputOutput;
     throw Error(fault, error.text());
+}
+
+/// A journal left beside the old file would be played into the new one.
+void putInPlace(const QString& made, const QString& path) {
+    try {
+        removeSidecars(path);
+        files::replaceWith(made, path);
+    } catch (const files::Error& error) {
+        passOn(error);
+    }
 }
 
 /// Keeps other processes from writing a data file, by the lock that readers of the engine hold; the file itself stays
@@ -103,52 +108,41 @@ void Workspace::copyUntouched(const QString& from, const QString& to) {
     try {
         const QuietFile quiet(from);
         removeSidecars(to);
-        for (const char* sidecar : {"", "-journal", "-wal"})
-            if (const QString part = from + QLatin1String(sidecar); QFileInfo::exists(part))
-                files::copyWhole(part, to + QLatin1String(sidecar));
+        for (const char* sidecar : {"", "-journal", "-wal"}) {
+            const QString part = to + QLatin1String(sidecar);
+            if (!QFileInfo::exists(from + QLatin1String(sidecar))) continue;
+            files::copyWhole(from + QLatin1String(sidecar), part);
+            QFile::setPermissions(part, QFile::ReadOwner | QFile::WriteOwner);
+        }
     } catch (const files::Error& error) {
         passOn(error);
     }
+}
+
+void Workspace::createWhole(const QString& path, const std::function<void(const QString& made)>& make) {
+    const Scrap made(path);
+    make(made.path);
+    putInPlace(made.path, path);
 }
 
 void Workspace::compactDatabase(const QString& from, const QString& to) {
     if (QFileInfo::exists(to))
         throw Error(Fault::State, tr("The file %1 exists already.").arg(QDir::toNativeSeparators(to)));
-    const QString made = files::temporaryName(to);
-    const auto discard = [&made] {
-        QFile::remove(made);
-        removeSidecars(made);
-    };
-    try {
+    createWhole(to, [&](const QString& made) {
         auto connection = find(from);
         if (!connection) connection = std::make_shared<Connection>(from, true);
         Statement(*connection, QStringLiteral("VACUUM INTO ") + sql::literal(made)).run();
         checkIntegrity(made);
         QFile::setPermissions(made, QFileInfo(from).permissions());
-        files::replaceWith(made, to);
-    } catch (const files::Error& error) {
-        discard();
-        passOn(error);
-    } catch (...) {
-        discard();
-        throw;
-    }
+    });
 }
 
 void Workspace::replaceDatabase(const QString& path, const QString& made) {
     inspectDataFile(made);
-    const auto swap = [&] {
-        try {
-            removeSidecars(path);
-            files::replaceWith(made, path);
-        } catch (const files::Error& error) {
-            passOn(error);
-        }
-    };
     if (const auto connection = find(path))
-        connection->whileClosed(swap);
+        connection->whileClosed([&] { putInPlace(made, path); });
     else
-        swap();
+        putInPlace(made, path);
 }
 
 }  // namespace datafile

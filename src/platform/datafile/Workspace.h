@@ -19,8 +19,12 @@ public:
     /// A copy onto itself is an Error.
     void copyDatabase(const QString& from, const QString& to);
     /// Copies a file that is not to be touched in any way, with the journal that may lie beside it: opening the copy
-    /// brings it to the state that the file is in. Raises Error(Locked) while another process is writing the file.
+    /// brings it to the state that the file is in. The copy is the user's alone, to read and to write. Raises
+    /// Error(Locked) while another process is writing the file.
     static void copyUntouched(const QString& from, const QString& to);
+    /// Lets `make` write a data file under another name, and puts it in the place of `path` then. When that raises,
+    /// nothing of it stays and an older file is what it was.
+    static void createWhole(const QString& path, const std::function<void(const QString& made)>& make);
     /// Writes the file's content without its free space as the new file `to`, checked and on disk.
     void compactDatabase(const QString& from, const QString& to);
     /// Puts the finished file `made`, from the same folder, in the place of the data file at `path`. The connection
