@@ -5,6 +5,9 @@
 #include "store/Schema.h"
 #include "store/UpgradeRun.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <optional>
 
 using datafile::Database;
@@ -13,7 +16,6 @@ using datafile::Recordset;
 namespace {
 
 constexpr char journalModule[] = "UpdateFunctions";
-constexpr char safetySuffix[] = ".BKM";
 constexpr char versionTable[] = "tblVersion";
 constexpr char versionColumn[] = "DBVersion";
 constexpr char firstVersion[] = "Version 1.0";
@@ -85,12 +87,25 @@ void upgrade(StoreContext& context, const Database& database, int version) {
     CompactDataFile(context);
 }
 
+/// A program that was ended while it wrote a file leaves it half-made beside its target. What is not a day old may be
+/// in the making by a program that still runs.
+void removeHalfMadeFiles(const StoreContext& context) {
+    const QFileInfo dataFile(context.dataFilePath);
+    const QRegularExpression halfMade(
+        QRegularExpression::anchoredPattern(QRegularExpression::escape(dataFile.completeBaseName()) +
+                                            QStringLiteral("\\.\\w{3}\\.[0-9a-f]{5}~(-journal)?")));
+    for (const QFileInfo& file : dataFile.dir().entryInfoList(QDir::Files | QDir::Hidden))
+        if (halfMade.match(file.fileName()).hasMatch() && file.lastModified() < context.clock.now().addDays(-1))
+            QFile::remove(file.filePath());
+}
+
 }  // namespace
+
+QString safetyCopyPath(const StoreContext& context) { return context.dataFilePath.chopped(4) + QStringLiteral(".BKM"); }
 
 bool MakeSafetyCopy(StoreContext& context) {
     try {
-        context.workspace.copyDatabase(context.dataFilePath,
-                                       context.dataFilePath.chopped(4) + QLatin1String(safetySuffix));
+        context.workspace.copyDatabase(context.dataFilePath, safetyCopyPath(context));
         return true;
     } catch (const datafile::Error& error) {
         WriteJournal(context.clock, context.dialogs, QLatin1String(journalModule), QStringLiteral("Backup"),
@@ -104,6 +119,7 @@ bool CorrectVersion(StoreContext& context) {
         const Database database = context.workspace.openDatabase(context.dataFilePath);
         emptyWorkTables(context, database);
         MakeSafetyCopy(context);
+        removeHalfMadeFiles(context);
         if (const std::optional<int> version = olderVersion(versionOf(database))) upgrade(context, database, *version);
         return true;
     } catch (const datafile::Error& error) {

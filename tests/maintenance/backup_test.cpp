@@ -6,6 +6,7 @@
 #include "maintenance/work/Backup.h"
 #include "maintenance/work/Codes.h"
 #include "platform/datafile/DataFile.h"
+#include "store/CorrectVersion.h"
 #include "store/Housekeeping.h"
 #include "support/LeagueFile.h"
 #include "support/Printing.h"

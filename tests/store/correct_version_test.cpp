@@ -38,4 +38,20 @@ TEST_F(CorrectVersionTest, SafetyCopyThatFailsIsReportedAndTheStartGoesOn) {
     EXPECT_TRUE(journal().contains("Backup")) << journal().toStdString();
 }
 
+/// Left by a program that was ended while it wrote them. What is younger may still be in the making, and what has
+/// another name is not ours.
+TEST_F(CorrectVersionTest, HalfMadeFilesGoWhenTheyAreOld) {
+    const QStringList stale{"Kestrelmoor.kmr.0a1b2~", "Kestrelmoor.kmr.0a1b2~-journal", "Kestrelmoor.CPT.fffff~"};
+    const QStringList kept{"Kestrelmoor.kmr.12345~", "Kestrelmoor.kmr~", "Other.kmr.0a1b2~", "Kestrelmoor.kmr.mine"};
+    for (const QString& name : stale + kept) {
+        QFile file(league.folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        const int days = name == kept.front() ? 0 : -2;
+        ASSERT_TRUE(file.setFileTime(league.clock.now().addDays(days), QFile::FileModificationTime));
+    }
+    EXPECT_TRUE(CorrectVersion(league.context));
+    for (const QString& name : stale) EXPECT_FALSE(QFile::exists(league.folder.filePath(name))) << name.toStdString();
+    for (const QString& name : kept) EXPECT_TRUE(QFile::exists(league.folder.filePath(name))) << name.toStdString();
+}
+
 }  // namespace

@@ -2,9 +2,8 @@
 
 #include "maintenance/work/Codes.h"
 #include "platform/files/Files.h"
+#include "store/CorrectVersion.h"
 #include "store/Housekeeping.h"
-
-QString safetyCopyPath(const StoreContext& context) { return context.dataFilePath.chopped(4) + QStringLiteral(".BKM"); }
 
 void compactWithoutWorkTables(StoreContext& context) {
     for (const RecordKind kind : {TempResults, TempSearchList, TempFeeReport}) DeleteRecords(context, kind);

@@ -6,9 +6,6 @@
 /// No league's data file comes near this size; what unpacks to more is none.
 inline constexpr qint64 largestDataFile = qint64{2} << 30;
 
-/// The path of the safety copy beside the data file.
-QString safetyCopyPath(const StoreContext& context);
-
 /// Empties the work tables and writes the data file anew without its free space. When it raises datafile::Error the
 /// file holds what it held.
 void compactWithoutWorkTables(StoreContext& context);
