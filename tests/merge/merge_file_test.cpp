@@ -59,6 +59,8 @@ class SecondFile : public testing::Test {
 protected:
     SecondFile() { makeBaseFile(path); }
     MergeFile::Code code() { return MergeFile(local.context, path).code(); }
+    ~SecondFile() override { EXPECT_EQ(copies(), QFileInfoList()) << "a copy of the league was left behind"; }
+    QFileInfoList copies() const { return QDir(local.folder.path()).entryInfoList({"*~*"}, QDir::Files); }
     std::optional<datafile::Fault> fault() {
         try {
             code();
@@ -135,8 +137,13 @@ TEST_F(SecondFile, JournalBesideItIsObeyedInTheCopyAlone) {
     const QByteArray before = bytesOf(broken);
     const QByteArray journal = bytesOf(broken + "-journal");
     ASSERT_TRUE(before.contains("half saved"));
+    QFile::setPermissions(broken, QFile::ReadOwner | QFile::ReadOther);  // as on a medium that takes no writing
     const MergeFile file(local.context, broken);
     ASSERT_EQ(file.code(), MergeFile::Code::Fits);
+    ASSERT_EQ(copies().size(), 1);
+    constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    EXPECT_TRUE(copies()[0].permission(QFile::ReadOwner | QFile::WriteOwner));
+    EXPECT_FALSE(copies()[0].permissions() & others);
     EXPECT_EQ(file.database().openRecordset("SELECT * FROM tblVendor WHERE VendorName = \"half saved\"").recordCount(),
               0);
     EXPECT_EQ(file.database().openRecordset("tblVendor").recordCount(), 3000);

@@ -2,7 +2,6 @@
 
 #include "maintenance/merge/MergeSteps.h"
 #include "maintenance/work/Backup.h"
-#include "platform/datafile/DataFile.h"
 #include "store/Schema.h"
 
 #include <QCoreApplication>
@@ -32,15 +31,15 @@ bool hasTable(const Database& database, const QString& name) {
 
 }  // namespace
 
-MergeFile::MergeFile(StoreContext& context, const QString& path, const std::function<void(int)>& progress) {
+MergeFile::MergeFile(StoreContext& context, const QString& path, const std::function<void(int)>& progress)
+    : copy_(context.dataFilePath) {
     constexpr int copied = 40;
     try {
         datafile::inspectDataFile(path);
-        const QString copy = folder_.filePath(QString::fromLatin1(memberName));
-        datafile::Workspace::copyUntouched(path, copy);
+        datafile::Workspace::copyUntouched(path, copy_.path);
         if (progress) progress(copied);
-        datafile::checkIntegrity(copy, datafile::Check::Quick);
-        database_.emplace(context.workspace.openDatabase(copy));
+        datafile::checkIntegrity(copy_.path, datafile::Check::Quick);
+        database_.emplace(context.workspace.openDatabase(copy_.path));
         code_ = judge(*database_);
     } catch (const Error& error) {
         if (error.fault() == Fault::NotADataFile) return;
@@ -64,6 +63,7 @@ MergeFile::Code MergeFile::judge(const Database& database) {
 
 archive::Fault unpackForMerge(const QString& archive, const QString& to, const archive::Progress& progress) {
     QDir().mkpath(QFileInfo(to).absolutePath());
-    for (const char* part : {"", "-journal", "-wal", "-shm"}) QFile::remove(to + QLatin1String(part));
+    QFile::remove(to);
+    datafile::removeSidecars(to);
     return archive::unpack(archive, QString::fromLatin1(memberName), to, largestDataFile, progress);
 }

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "platform/archive/Archive.h"
+#include "platform/datafile/DataFile.h"
 #include "store/StoreContext.h"
 
-#include <QTemporaryDir>
 #include <functional>
 #include <optional>
 
-/// The data file that is to be merged: a private copy of it, checked, so that nothing is ever written to the file that
-/// the user chose, not even to bring a journal beside it to its end.
+/// The data file that is to be merged: a copy of it, checked, so that nothing is ever written to the file that the user
+/// chose, not even to bring a journal beside it to its end. The copy is the user's alone and lies beside the data file,
+/// where there is room for one and where such data belongs; nothing of it stays.
 class MergeFile {
 public:
     enum class Code { Fits = 0, Older = 1, NotOurs = 2 };
@@ -25,7 +26,7 @@ public:
 private:
     static Code judge(const datafile::Database& database);
 
-    QTemporaryDir folder_;
+    datafile::Scrap copy_;
     std::optional<datafile::Database> database_;
     Code code_ = Code::NotOurs;
 };
