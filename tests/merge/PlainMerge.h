@@ -71,6 +71,15 @@ private:
         return nullptr;
     }
     Row* findLocal(const char* table, const Test& test) { return const_cast<Row*>(find(local_[table], test)); }
+    /// The local row for a source row: before all others one that was saved at the same time.
+    Row* findTwin(const char* table, const Row& row, const Test& test, int noTime = 1) {
+        Row* same = findLocal(table, [&](const Row& each) {
+            const QString time = each["TimeStamp"].isNull() ? QString::number(noTime) : each["TimeStamp"];
+            return test(each) && each.deleted() == row.deleted() && time == row["TimeStamp"] &&
+                   day(each["DateStamp"]).isValid() && each["DateStamp"] == row["DateStamp"];
+        });
+        return same ? same : findLocal(table, test);
+    }
     const Row* sourceRow(const char* table, const char* id, qint64 key) const {
         return find(source_.at(table), [&](const Row& row) { return row.number(id) == key; });
     }
@@ -218,7 +227,7 @@ inline void Merge::named(const char* table, const char* name, const char* id, bo
                          const char* alsoRequired) {
     for (const Row& row : ordered(table, sorted ? QStringList{name} : QStringList{})) {
         if (row[name].isEmpty() || (alsoRequired && row[alsoRequired].isEmpty())) continue;
-        Row* ours = findLocal(table, [&](const Row& each) { return same(each[name], row[name]); });
+        Row* ours = findTwin(table, row, [&](const Row& each) { return same(each[name], row[name]); });
         if (ours && newer(row, *ours)) copy(table, *ours, row, {});
         if (!ours && (addsDeleted || !row.deleted())) add(table, row, {}, id);
     }
@@ -229,7 +238,7 @@ inline void Merge::pledges() {
     for (const Row& row : source_.at(table)) {
         const qint64 owner = sponsor(row.number("SponsorId"));
         if (owner == 0) continue;
-        Row* ours = findLocal(table, [&](const Row& each) {
+        Row* ours = findTwin(table, row, [&](const Row& each) {
             return each.number("SponsorId") == owner && same(each["PreviousPledgeYear"], row["PreviousPledgeYear"]);
         });
         if (ours && newer(row, *ours)) copy(table, *ours, row, {{"SponsorId", owner}});
@@ -245,7 +254,7 @@ inline void Merge::divisions() {
             }))
             continue;
         const auto isIt = [&](const Row& each) { return same(each["DivName"], row["DivName"]); };
-        Row* ours = findLocal(table, isIt);
+        Row* ours = findTwin(table, row, isIt);
         if (ours && ours->deleted() && !row.deleted()) ours = nullptr;  // becomes a second row
         if (ours && newer(row, *ours)) copy(table, *ours, row, {});
         if (ours) continue;
@@ -265,7 +274,7 @@ inline void Merge::teams() {
             continue;
         const Keys keys{{"DivisionId", division(row.number("DivisionId"))},
                         {"SponsorId", sponsor(row.number("SponsorId"))}};
-        Row* ours = findLocal(table, [&](const Row& each) {
+        Row* ours = findTwin(table, row, [&](const Row& each) {
             return each.number("DivisionId") == keys["DivisionId"] && same(each["TeamName"], row["TeamName"]);
         });
         if (ours) {
@@ -291,14 +300,15 @@ inline void Merge::players() {
                         {"PlayerTeamId", theirTeam ? team(theirTeam->number("TeamId"), ourDivision) : 0}};
         const bool hasDate = day(row["PlayerBirthDate"]).isValid();
         const QString born = hasDate ? row["PlayerBirthDate"] : now_.date().toString(Qt::ISODate);
-        Row* ours = findLocal(table, [&](const Row& each) {
+        const auto isIt = [&](const Row& each) {
             return same(each["PlayerLastName"], row["PlayerLastName"]) &&
                    same(each["PlayerFirstName"], row["PlayerFirstName"]) && each["PlayerBirthDate"] == born;
-        });
+        };
         // an entry "Last, First - 4/2/2012" is cut at the first comma, and before a number behind " - "
         const QString first = row["PlayerFirstName"];
         static const QRegularExpression date(" - \\d+/\\d+/\\d+$");
         const bool found = hasDate && !row["PlayerLastName"].contains(',') && !first.contains(date);
+        Row* ours = found ? findTwin(table, row, isIt, 0) : findLocal(table, isIt);
         Row* written = nullptr;
         if (ours && (!found || newer(row, *ours, 0))) copy(table, *(written = ours), row, keys);
         if (!ours && !row.deleted()) written = &add(table, row, keys, "PlayerId");
@@ -321,7 +331,7 @@ inline void Merge::volunteers() {
     for (const Row& row : ordered(table, names)) {
         if (std::any_of(names.begin(), names.end(), [&](const QString& name) { return row.values[name].isEmpty(); }))
             continue;
-        Row* ours = findLocal(table, [&](const Row& each) {
+        Row* ours = findTwin(table, row, [&](const Row& each) {
             return std::all_of(names.begin(), names.end(),
                                [&](const QString& name) { return same(each.values[name], row.values[name]); });
         });
@@ -337,7 +347,7 @@ inline void Merge::ratings() {
         const Keys keys{{"PlayerId", player(row.number("PlayerId"))}, {"VolId", volunteer(row.number("VolId"))}};
         const char* own = isPlayer ? "PlayerId" : "VolId";
         if (keys[own] == 0) continue;
-        Row* ours = findLocal(table, [&](const Row& each) { return each.number(own) == keys[own]; });
+        Row* ours = findTwin(table, row, [&](const Row& each) { return each.number(own) == keys[own]; });
         if (ours && !newer(row, *ours)) continue;
         const QString comments[] = {ours ? (*ours)["PlayerComments"] : "", ours ? (*ours)["VolunteerComments"] : ""};
         Row& written = ours ? (copy(table, *ours, row, keys), *ours) : add(table, row, keys);
@@ -352,7 +362,7 @@ inline void Merge::equipment() {
         if (row["ItemName"].isEmpty()) continue;
         const Keys keys{{"VendorId", byName("tblVendor", "VendorId", {"VendorName"}, row.number("VendorId"))},
                         {"InsuranceId", byName("tblInsurance", "InsId", {"InsAgencyName"}, row.number("InsuranceId"))}};
-        Row* ours = findLocal(table, [&](const Row& each) {
+        Row* ours = findTwin(table, row, [&](const Row& each) {
             return same(each["ItemName"], row["ItemName"]) && same(each["Description"], row["Description"]);
         });
         if (ours && newer(row, *ours)) copy(table, *ours, row, keys);
@@ -369,7 +379,7 @@ inline void Merge::assignments() {
             {"VolId", volunteer(row.number("VolId"))},
             {"EquipmentId", byName("tblEquipment", "EquipId", {"ItemName", "Description"}, row.number("EquipmentId"))}};
         keys["TeamId"] = team(row.number("TeamId"), keys["DivisionId"]);
-        Row* ours = findLocal(table, [&](const Row& each) {
+        Row* ours = findTwin(table, row, [&](const Row& each) {
             return std::all_of(keys.keyBegin(), keys.keyEnd(),
                                [&](const QString& key) { return each.values[key].toLongLong() == keys[key]; });
         });
@@ -384,7 +394,7 @@ inline void Merge::assignments() {
 inline void Merge::sizes(const char* table, const char* size, const char* text) {
     for (const Row& row : ordered(table, {size})) {
         if (row[size].isEmpty() || row[text].isEmpty()) continue;
-        Row* ours = findLocal(table, [&](const Row& each) { return same(each[text], row[text]); });
+        Row* ours = findTwin(table, row, [&](const Row& each) { return same(each[text], row[text]); });
         if (ours && newer(row, *ours)) copy(table, *ours, row, {});
         if (!ours) add(table, row, {});
     }
@@ -400,24 +410,25 @@ inline void Merge::results() {
     for (Row row : source_.at(table)) {
         const qint64 ours = division(row.number("DivisionId"));
         if (!day(row["GameDate"]).isValid()) row["GameDate"] = now_.date().toString(Qt::ISODate);
-        if (!QTime::fromString(row["GameTime"], "HH:mm:ss").isValid()) row["GameTime"] = QString();
         games.push_back({row,
                          {{"DivisionId", ours},
                           {"HomeTeamId", team(row.number("HomeTeamId"), ours)},
                           {"VisitorTeamId", team(row.number("VisitorTeamId"), ours)}}});
     }
+    const auto sameTime = [](const Row& one, const Row& other) {
+        return QTime::fromString(one["GameTime"], "HH:mm:ss") == QTime::fromString(other["GameTime"], "HH:mm:ss");
+    };
     const auto isOf = [](const Row& each, const Game& game) {
         return std::all_of(game.keys.keyBegin(), game.keys.keyEnd(),
                            [&](const QString& key) { return each.values[key].toLongLong() == game.keys[key]; }) &&
                each["GameDate"] == game.row["GameDate"];
     };
     for (const Game& game : games) {
-        Row* ours = findLocal(
-            table, [&](const Row& each) { return isOf(each, game) && each["GameTime"] == game.row["GameTime"]; });
+        Row* ours = findLocal(table, [&](const Row& each) { return isOf(each, game) && sameTime(each, game.row); });
         if (!ours)
             ours = findLocal(table, [&](const Row& each) {
                 return isOf(each, game) && std::none_of(games.begin(), games.end(), [&](const Game& other) {
-                           return isOf(each, other) && other.row["GameTime"] == each["GameTime"];
+                           return isOf(each, other) && sameTime(each, other.row);
                        });
             });
         if (ours)
@@ -527,7 +538,7 @@ inline void Merge::links(const char* table, const char* column, const char* pare
         if (withPlayer) keys["PlayerId"] = player(row.number("PlayerId"));
         const bool playerUnknown = withPlayer && keys["PlayerId"] == 0 && row.number("PlayerId") != 0;
         if (keys["VolId"] == 0 || keys[column] == 0 || playerUnknown) continue;
-        Row* ours = findLocal(table, [&](const Row& each) {
+        Row* ours = findTwin(table, row, [&](const Row& each) {
             return std::all_of(keys.keyBegin(), keys.keyEnd(),
                                [&](const QString& key) { return each.values[key].toLongLong() == keys[key]; });
         });

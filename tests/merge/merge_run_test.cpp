@@ -87,6 +87,18 @@ TEST_F(Merging, RefusedRowCostsNoMoreThanWhatBelongsToIt) {
               (QStringList{"Hawks", "Owls"}));
 }
 
+/// What has a name is missed when it does not arrive.
+TEST_F(Merging, RowThatLacksWhatItMustHaveIsTold) {
+    run(other,
+        "INSERT INTO tblCertifications (CertificationName, CertifyingOrganization, DeletedFlag) VALUES ('Level 1', '', "
+        "0), ('Level 2', 'Board', 0), ('Level 3', '', 1), ('', '', 0)");
+    local.dialogs.expectWarning("Database Error",
+                                "9-Level 1 was not merged: a value is required in the column CertifyingOrganization.");
+    merge();
+    EXPECT_EQ(list(local, "SELECT CertificationName FROM tblCertifications WHERE CertificationName LIKE 'Level%'"),
+              QStringList{"Level 2"});
+}
+
 TEST_F(Merging, EveryTableButTheScheduleAndTheFilesOwnIsMerged) {
     QStringList left = local.database().tableNames();
     for (const MergeStep& step : mergeSteps())

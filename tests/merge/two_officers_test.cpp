@@ -7,7 +7,7 @@
 #include "merge/PlainMerge.h"
 #include "sample_league/SampleLeague.h"
 #include "support/Printing.h"
-#include "support/ScriptedDialogs.h"
+#include "support/QuietDialogs.h"
 
 // Two officers work on copies of one league, each at random. One merges the other's file, then the other way round;
 // each time every row is compared with what the rules say, told a second time and plainly (PlainMerge.h).
@@ -206,7 +206,7 @@ struct Desk {
     QTemporaryDir folder;
     datafile::Workspace workspace;
     FixedClock clock{QDateTime(QDate(2026, 6, 1), QTime(12, 0))};
-    ScriptedDialogs dialogs;
+    QuietDialogs dialogs;  // a gap in a row may cost it
     StoreContext context{workspace, clock, dialogs};
     std::optional<datafile::Database> database;
 };
@@ -266,9 +266,7 @@ TEST_P(TwoOfficers, MergeEachOthersFilesByTheRules) {
     mergeAndCompare(one, other);
     const auto merged = sizes(one.read());
     one.merge(other);
-    if (!careless) {
-        EXPECT_EQ(sizes(one.read()), merged) << "merging the same file again added rows";
-    }
+    EXPECT_EQ(sizes(one.read()), merged) << "merging the same file again added rows";
     mergeAndCompare(other, one);
 }
 

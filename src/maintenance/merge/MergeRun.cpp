@@ -43,7 +43,7 @@ void MergeRun::takeAsDone(const MergeStep& step) {
     for (const MergeTable& about : step.tables) {
         TableMerge table(work_, about);
         table.readLocal();
-        table.readSource();
+        table.readSource([](const Error&) {});
         table.remember();
     }
 }
@@ -64,7 +64,7 @@ bool MergeRun::decide(const Tables& tables, QStringList& errors) {
         for (const auto& table : tables) {
             table->readLocal();
             progress_.reached(reached += part, false);
-            table->readSource();
+            table->readSource([&](const Error& error) { errors << numbered(error); });
             progress_.reached(reached += part, false);
             table->decide();
             progress_.reached(reached += part, false);
@@ -72,7 +72,7 @@ bool MergeRun::decide(const Tables& tables, QStringList& errors) {
         return true;
     } catch (const Error& error) {
         for (const auto& table : tables) table->drop();
-        errors << numbered(error);
+        errors = QStringList{numbered(error)};
         return false;
     }
 }

@@ -4,7 +4,10 @@
 #include "platform/datafile/Connection.h"
 #include "registration/clsRegistration.h"
 
+#include <QCoreApplication>
+
 using datafile::ColumnType;
+using datafile::Error;
 using datafile::Statement;
 using datafile::TableDef;
 using datafile::toDate;
@@ -38,6 +41,12 @@ QString joined(const std::vector<QString>& parts) {
     return key;
 }
 
+Error incomplete(const QString& name, const char* column) {
+    const QString text =
+        QCoreApplication::translate("Merge", "%1 was not merged: a value is required in the column %2.");
+    return {datafile::Fault::Required, text.arg(name, QLatin1String(column))};
+}
+
 QString withFiner(const QString& key, const QString& finer) { return key + keySeparator + finer; }
 
 }  // namespace
@@ -69,9 +78,13 @@ public:
     bool deleted() const { return rows_->number(deleted_) != 0; }
     qint64 reference(size_t number) const { return toNumber(rows_->value(references_[number])); }
     QString text(size_t keyPart) const { return rows_->text(keyParts_[keyPart].place); }
-    bool complete() const {
-        return std::none_of(required_.begin(), required_.end(),
-                            [this](int each) { return rows_->text(each).isEmpty(); });
+    /// What the user knows the row by; empty for a row that has no name or only binds others.
+    QString name() const { return keyParts_.front().reference < 0 ? text(0) : QString(); }
+    /// The first required column that is empty, or null.
+    const char* missing() const {
+        for (size_t i = 0; i < required_.size(); ++i)
+            if (rows_->text(required_[i]).isEmpty()) return table_.required[i];
+        return nullptr;
     }
     /// The natural key with these in the place of the row's own references.
     std::vector<QString> key(const std::array<qint64, mostReferences>* references, const QDate& noDay = {}) const {
@@ -155,7 +168,7 @@ bool TableMerge::translate(const Reader& rows, SourceRow& row) {
     return skipped || (table_.needsReference && !any);
 }
 
-void TableMerge::readSource() {
+void TableMerge::readSource(const Failed& failed) {
     QString order;
     for (const char* column : table_.order) order += u'"' + QString::fromLatin1(column) + QStringLiteral("\",");
     const bool isTeam = qstrcmp(table_.name, "tblTeam") == 0;
@@ -169,7 +182,9 @@ void TableMerge::readSource() {
         row.day = rows.day();
         row.time = rows.time(-1);
         row.deleted = rows.deleted();
-        row.skipped = translate(rows, row) || !rows.complete();
+        const char* missing = rows.missing();
+        row.skipped = translate(rows, row) || missing;
+        if (missing && !row.deleted && !rows.name().isEmpty()) failed(incomplete(rows.name(), missing));
         std::vector<QString> key = rows.key(&row.references, noDay);
         row.key = joined(key);
         row.finer = rows.finer();
@@ -189,6 +204,11 @@ bool TableMerge::isNewer(const SourceRow& row, const LocalRows::Row& local) {
     return row.day > local.day || row.time > local.time;  // without a time it is below any
 }
 
+/// Saved at one time: of several local rows with one key this is the row that was merged before.
+bool TableMerge::isCopy(const SourceRow& row, const LocalRows::Row& local) {
+    return row.day == local.day && row.time == local.time && row.deleted == local.deleted;
+}
+
 TableMerge::Choice TableMerge::choose(const SourceRow& row) const {
     if (!row.exactKey.isEmpty()) return {local_.find(row.exactKey), true};
     if (table_.finer) {
@@ -200,9 +220,10 @@ TableMerge::Choice TableMerge::choose(const SourceRow& row) const {
                             }),
                 false};
     }
-    if (table_.match == Match::LiveOrDeletedAlike && !row.deleted)
-        return {local_.find(row.key, [](const LocalRows::Row& local) { return !local.deleted; }), false};
-    const int found = local_.find(row.key);
+    const bool liveOnly = table_.match == Match::LiveOrDeletedAlike && !row.deleted;
+    int found = local_.find(row.key, [&](const LocalRows::Row& local) { return isCopy(row, local); });
+    if (found < 0)
+        found = local_.find(row.key, [&](const LocalRows::Row& local) { return !liveOnly || !local.deleted; });
     return {found, table_.match == Match::LiveOrReused && found >= 0 && local_.row(found).deleted};
 }
 
@@ -238,8 +259,7 @@ void TableMerge::decide() {
     }
 }
 
-void TableMerge::write(const std::function<void(const datafile::Error&)>& failed,
-                       const std::function<void(size_t)>& progress) {
+void TableMerge::write(const Failed& failed, const std::function<void(size_t)>& progress) {
     constexpr size_t often = 256;
     RowWriter writer(work_, table_);
     for (size_t i = 0; i < writes_.size(); ++i) {
@@ -248,7 +268,7 @@ void TableMerge::write(const std::function<void(const datafile::Error&)>& failed
         try {
             const qint64 id = writer.write(row.id, {row.references.data(), table_.foreign.size()}, local.id);
             local.id = id;
-        } catch (const datafile::Error& error) {
+        } catch (const Error& error) {
             if (!isRefusal(error.fault())) throw;
             incomplete_ = true;
             failed(error);
@@ -263,7 +283,7 @@ void TableMerge::drop() {
     local_.clear();
     try {
         readLocal();
-    } catch (const datafile::Error&) {
+    } catch (const Error&) {
         local_.clear();  // then no row of it is found, and rows that belong to one wait
     }
 }

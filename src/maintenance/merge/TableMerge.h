@@ -14,14 +14,16 @@ class TableMerge {
 public:
     TableMerge(MergeWork& work, const MergeTable& table) : work_(work), table_(table) {}
 
+    using Failed = std::function<void(const datafile::Error&)>;
+
     void readLocal();
-    /// Rows in their order, with their keys translated. Parents must have been merged.
-    void readSource();
+    /// Rows in their order, with their keys translated. Parents must have been merged. `failed` is told of rows with a
+    /// name that are left away because they lack what such a row must have.
+    void readSource(const Failed& failed);
     void decide();
     /// Writes within the caller's transaction. A row that the file refuses costs that row; `failed` is told why. Calls
     /// `progress` with the number of rows written at every few rows.
-    void write(const std::function<void(const datafile::Error&)>& failed,
-               const std::function<void(size_t)>& progress = {});
+    void write(const Failed& failed, const std::function<void(size_t)>& progress = {});
     size_t writes() const { return writes_.size(); }
     /// Nothing was written: what was decided is dropped, and the local rows are known as they stand in the file.
     void drop();
@@ -56,6 +58,7 @@ private:
     bool translate(const Reader& rows, SourceRow& row);
     Choice choose(const SourceRow& row) const;
     static bool isNewer(const SourceRow& row, const LocalRows::Row& local);
+    static bool isCopy(const SourceRow& row, const LocalRows::Row& local);
     LocalRows::Row asWritten(const SourceRow& row) const;
 
     MergeWork& work_;
