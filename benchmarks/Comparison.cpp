@@ -1,5 +1,6 @@
 #include "Comparison.h"
 
+#include <QElapsedTimer>
 #include <QStringList>
 #include <algorithm>
 #include <cstdio>
@@ -58,6 +59,13 @@ public:
 private:
     std::vector<Comparison::Row>& rows_;
 };
+
+double seconds(const std::function<void()>& work) {
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
+}
 
 Comparison::Comparison(int* count, char** arguments) {
     char interleave[] = "--benchmark_enable_random_interleaving=true";  // a busy moment must not hit one side alone

@@ -17,6 +17,9 @@ struct Aim {
 
 enum class Unit { Seconds, Bytes };
 
+/// How long the work takes.
+double seconds(const std::function<void()>& work);
+
 /// Measurements of the program beside the raw engine doing the same work, at several sizes of the league, printed
 /// as one table:
 ///

@@ -22,6 +22,11 @@ public:
     RawFile(const RawFile&) = delete;
     RawFile& operator=(const RawFile&) = delete;
     sqlite3* handle() const { return handle_; }
+    void run(const QString& statement) const {
+        char* error = nullptr;
+        if (sqlite3_exec(handle_, statement.toUtf8().constData(), nullptr, nullptr, &error) != SQLITE_OK)
+            qFatal("%s: %s", qPrintable(statement), error);
+    }
 
 private:
     sqlite3* handle_ = nullptr;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
@@ -13,10 +14,10 @@
 /// The sizes of the leagues that everything is measured with.
 inline constexpr int leagueSizes[] = {1000, 100000};
 
-/// The file of a made-up league, made on first use and kept in the folder until a program of measurements that is
-/// newer than it asks for it.
-inline QString sampleFile(const QString& folder, int players) {
-    const QString path = QString("%1/sample-%2.kmr").arg(folder).arg(players);
+/// The file of a made-up league, made on first use and kept beside the programs until one that is newer than it asks
+/// for it.
+inline QString sampleFile(int players) {
+    const QString path = QString("%1/sample-%2.kmr").arg(QCoreApplication::applicationDirPath()).arg(players);
     const QFileInfo program(QStringLiteral("/proc/self/exe"));
     if (QFileInfo(path).lastModified() < QFileInfo(program.symLinkTarget()).lastModified()) {
         QFile::remove(path);
@@ -27,9 +28,9 @@ inline QString sampleFile(const QString& folder, int players) {
 
 /// A copy of a made-up league that a measurement may write to, and all that record classes need to work on it.
 struct SampleLeague {
-    SampleLeague(const QString& folder, int players) : size(players) {
+    explicit SampleLeague(int players) : size(players) {
         const QString path = files.filePath("Kestrelmoor.kmr");
-        if (!QFile::copy(sampleFile(folder, players), path)) qFatal("The sample league could not be copied.");
+        if (!QFile::copy(sampleFile(players), path)) qFatal("The sample league could not be copied.");
         context.dataFilePath = path;
         context.globals.currentSeasonYear = "2026";
         database.emplace(workspace.openDatabase(path));

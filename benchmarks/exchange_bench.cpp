@@ -64,10 +64,9 @@ void importByHand(const QString& path, const QByteArray& bytes) {
 
 int main(int count, char** arguments) {
     QApplication application(count, arguments);
-    const QTemporaryDir folder;
     const QByteArray bytes = scheduleFile();
-    SampleLeague ours(folder.path(), players);
-    SampleLeague raw(folder.path(), players);
+    SampleLeague ours(players);
+    SampleLeague raw(players);
     Agreeing dialogs;
     StoreContext context{ours.workspace, ours.clock, dialogs, ours.context.dataFilePath};
     Comparison comparison(&count, arguments);

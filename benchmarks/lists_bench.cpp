@@ -19,8 +19,7 @@ constexpr char listQuery[] =
 
 class Measurements {
 public:
-    Measurements(const QString& folder, int players)
-        : league_(folder, players), raw_(league_.context.dataFilePath), entries_(read()) {
+    explicit Measurements(int players) : league_(players), raw_(league_.context.dataFilePath), entries_(read()) {
         combo_.resize(400, combo_.sizeHint().height());
         combo_.show();
         combo_.setEntries(std::vector<QString>(entries_));
@@ -98,7 +97,7 @@ int main(int count, char** arguments) {
     Comparison comparison(&count, arguments);
     std::vector<std::unique_ptr<Measurements>> all;
     for (const int players : leagueSizes) {
-        all.push_back(std::make_unique<Measurements>(QCoreApplication::applicationDirPath(), players));
+        all.push_back(std::make_unique<Measurements>(players));
         all.back()->addTo(comparison);
     }
     return comparison.run();

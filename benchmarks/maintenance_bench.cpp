@@ -1,7 +1,6 @@
 #include <zip.h>
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 
 #include "Comparison.h"
@@ -21,13 +20,6 @@ constexpr int largeLeague = 100000;
 constexpr int times = 3;
 constexpr double mostSeasonTimes = 1.3;
 constexpr double mostArchiveTimes = 1.1;
-
-double seconds(const std::function<void()>& work) {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
-}
 
 void must(bool holds, const char* what) {
     if (!holds) qFatal("%s failed.", what);
@@ -85,14 +77,10 @@ std::vector<std::vector<QString>> seasonByHand() {
 
 void openSeasonByHand(const QString& path) {
     const RawFile file(path);
-    const auto run = [&file](const QString& statement) {
-        must(sqlite3_exec(file.handle(), statement.toUtf8().constData(), nullptr, nullptr, nullptr) == SQLITE_OK,
-             qPrintable(statement));
-    };
     for (const std::vector<QString>& step : seasonByHand()) {
-        run("BEGIN IMMEDIATE");
-        for (const QString& statement : step) run(statement);
-        run("COMMIT");
+        file.run("BEGIN IMMEDIATE");
+        for (const QString& statement : step) file.run(statement);
+        file.run("COMMIT");
     }
 }
 
@@ -123,61 +111,71 @@ void unzipByHand(const QString& archive, const QString& to) {
     zip_discard(zip);
 }
 
-void measureSeason(Comparison& comparison, const QString& folder, int players) {
+void measureSeason(Comparison& comparison, int players) {
     comparison.addMeasured(
         {"new season, every box", players, {.times = mostSeasonTimes}}, times,
         [=] {
-            SampleLeague league(folder, players);
+            SampleLeague league(players);
             return seconds([&] { openSeason(league.context); });
         },
         [=] {
-            SampleLeague league(folder, players);
+            SampleLeague league(players);
             league.database.reset();
             return seconds([&] { openSeasonByHand(league.context.dataFilePath); });
         });
 }
 
-void measureArchive(Comparison& comparison, const QString& folder, int players) {
-    const QString ours = folder + "/ours.zip";
-    const QString raw = folder + "/raw.zip";
-    const auto league = std::make_shared<SampleLeague>(folder, players);
-    const QString file = league->context.dataFilePath;
-    must(archive::pack(file, ours) == archive::Fault::None, "Packing");
-    comparison.addMeasured(
-        {"back up: pack", players, {.times = mostArchiveTimes}}, times,
-        [=] {
-            return seconds([&] { must(archive::pack(file, folder + "/made.zip") == archive::Fault::None, "Packing"); });
+/// A large league and its archive, made when something is to be measured on them.
+struct Packed {
+    Packed() { must(archive::pack(file, archive) == archive::Fault::None, "Packing"); }
+    QString at(const char* name) const { return league.files.filePath(name); }
+
+    SampleLeague league{largeLeague};
+    QString file = league.context.dataFilePath;
+    QString archive = at("ours.zip");
+};
+
+void measureArchive(Comparison& comparison) {
+    const auto made = std::make_shared<std::unique_ptr<Packed>>();
+    const auto packed = [made]() -> Packed& {
+        if (!*made) *made = std::make_unique<Packed>();
+        return **made;
+    };
+    const auto measure = [&](const char* what, const Aim& aim, void (*ours)(Packed&), void (*raw)(Packed&)) {
+        const auto timed = [packed](void (*work)(Packed&)) {
+            return [packed, work] {
+                Packed& league = packed();
+                return seconds([&] { work(league); });
+            };
+        };
+        comparison.addMeasured({what, largeLeague, aim}, times, timed(ours), timed(raw));
+    };
+    measure(
+        "back up: pack", {.times = mostArchiveTimes},
+        [](Packed& all) { must(archive::pack(all.file, all.at("made.zip")) == archive::Fault::None, "Packing"); },
+        [](Packed& all) { zipByHand(all.file, all.at("raw.zip")); });
+    measure(
+        "back up: read back and compare", {},
+        [](Packed& all) { must(archive::compare(all.archive, all.file) == archive::Fault::None, "Comparing"); },
+        [](Packed& all) { unzipByHand(all.archive, {}); });
+    measure(
+        "restore: unpack", {.times = mostArchiveTimes},
+        [](Packed& all) {
+            must(archive::unpack(all.archive, "Kestrelmoor.kmr", all.at("ours.kmr"), largestDataFile) ==
+                     archive::Fault::None,
+                 "Unpacking");
         },
-        [=] { return seconds([&] { zipByHand(file, raw); }); });
-    comparison.addMeasured(
-        {"back up: read back and compare", players, {}}, times,
-        [=] { return seconds([&] { must(archive::compare(ours, file) == archive::Fault::None, "Comparing"); }); },
-        [=] { return seconds([&] { unzipByHand(ours, {}); }); });
-    comparison.addMeasured(
-        {"restore: unpack", players, {.times = mostArchiveTimes}}, times,
-        [=] {
-            return seconds([&] {
-                must(archive::unpack(ours, "Kestrelmoor.kmr", folder + "/ours.kmr", largestDataFile) ==
-                         archive::Fault::None,
-                     "Unpacking");
-            });
+        [](Packed& all) { unzipByHand(all.archive, all.at("raw.kmr")); });
+    measure(
+        "restore: copy, unpack, check and swap", {},
+        [](Packed& all) {
+            must(restore(all.league.context, all.archive, all.league.files.path(), {}) == 0, "Restoring");
         },
-        [=] { return seconds([&] { unzipByHand(ours, folder + "/raw.kmr"); }); });
-    comparison.addMeasured(
-        {"restore: copy, unpack, check and swap", players, {}}, times,
-        [=] {
-            return seconds([&] {
-                const int code = restore(league->context, ours, league->files.path(), {});
-                if (code != 0) qFatal("Restoring failed with %d.", code);
-            });
-        },
-        [=] {
-            return seconds([&] {
-                QFile::remove(folder + "/raw.BKM");
-                QFile::copy(file, folder + "/raw.BKM");
-                unzipByHand(ours, folder + "/raw.kmr");
-                datafile::checkIntegrity(folder + "/raw.kmr");
-            });
+        [](Packed& all) {
+            QFile::remove(all.at("raw.BKM"));
+            QFile::copy(all.file, all.at("raw.BKM"));
+            unzipByHand(all.archive, all.at("raw.kmr"));
+            datafile::checkIntegrity(all.at("raw.kmr"));
         });
 }
 
@@ -185,9 +183,8 @@ void measureArchive(Comparison& comparison, const QString& folder, int players) 
 
 int main(int count, char** arguments) {
     QCoreApplication application(count, arguments);
-    const QTemporaryDir folder;
     Comparison comparison(&count, arguments);
-    for (const int players : {smallLeague, largeLeague}) measureSeason(comparison, folder.path(), players);
-    measureArchive(comparison, folder.path(), largeLeague);
+    for (const int players : {smallLeague, largeLeague}) measureSeason(comparison, players);
+    measureArchive(comparison);
     return comparison.run();
 }

@@ -1,5 +1,4 @@
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 
 #include "Comparison.h"
@@ -20,12 +19,6 @@ namespace {
 constexpr double mostTimes = 2;
 constexpr int times = 3;
 
-void run(const RawFile& file, const QString& statement) {
-    char* error = nullptr;
-    if (sqlite3_exec(file.handle(), statement.toUtf8().constData(), nullptr, nullptr, &error) != SQLITE_OK)
-        qFatal("%s: %s", qPrintable(statement), error);
-}
-
 /// Nine of a hundred rows of each table are newer there, and one of a hundred players is unknown here. Made on first
 /// use.
 QString otherFile(const QString& folder, const QString& league) {
@@ -33,14 +26,14 @@ QString otherFile(const QString& folder, const QString& league) {
     if (QFile::exists(path)) return path;
     if (!QFile::copy(league, path)) qFatal("%s could not be copied.", qPrintable(league));
     const RawFile file(path);
-    run(file, "BEGIN");
+    file.run("BEGIN");
     for (const MergeStep& step : mergeSteps())
         for (const MergeTable& table : step.tables)
-            run(file, QString("UPDATE %1 SET DateStamp = '2026-05-15', TimeStamp = 86000 WHERE rowid % 100 < 9")
-                          .arg(table.name));
-    run(file, "UPDATE tblRegistration SET PlayerComments = 'seen by the second officer' WHERE PlayerId % 100 < 9");
-    run(file, "UPDATE tblRegistration SET PlayerFirstName = PlayerFirstName || ' B' WHERE PlayerId % 100 = 50");
-    run(file, "COMMIT");
+            file.run(QString("UPDATE %1 SET DateStamp = '2026-05-15', TimeStamp = 86000 WHERE rowid % 100 < 9")
+                         .arg(table.name));
+    file.run("UPDATE tblRegistration SET PlayerComments = 'seen by the second officer' WHERE PlayerId % 100 < 9");
+    file.run("UPDATE tblRegistration SET PlayerFirstName = PlayerFirstName || ' B' WHERE PlayerId % 100 = 50");
+    file.run("COMMIT");
     return path;
 }
 
@@ -117,20 +110,13 @@ private:
 
 void mergeByHand(const QString& local, const QString& other) {
     const RawFile file(local);
-    run(file, "ATTACH '" + other + "' AS theirs");
+    file.run("ATTACH '" + other + "' AS theirs");
     for (const MergeStep& step : mergeSteps()) {
-        run(file, "BEGIN IMMEDIATE");
+        file.run("BEGIN IMMEDIATE");
         for (const MergeTable& table : step.tables)
-            for (const QString& statement : SetWise(table).statements()) run(file, statement);
-        run(file, "COMMIT");
+            for (const QString& statement : SetWise(table).statements()) file.run(statement);
+        file.run("COMMIT");
     }
-}
-
-double seconds(const std::function<void()>& work) {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
 }
 
 }  // namespace
@@ -140,37 +126,37 @@ int main(int count, char** arguments) {
     const QTemporaryDir folder;
     Comparison comparison(&count, arguments);
     for (const int players : {10000, 100000}) {
-        const auto other = [&folder, players] { return otherFile(folder.path(), sampleFile(folder.path(), players)); };
+        const auto other = [&folder, players] { return otherFile(folder.path(), sampleFile(players)); };
         comparison.addMeasured(
             {"merge the rows of a second file", players, {.times = mostTimes}}, times,
-            [&folder, players, other] {
+            [players, other] {
                 const QString file = other();
-                SampleLeague copy(folder.path(), players);
+                SampleLeague copy(players);
                 const datafile::Database source = copy.workspace.openDatabase(file);
                 return seconds([&] { mergeInto(copy.context, source); });
             },
-            [&folder, players, other] {
+            [players, other] {
                 const QString file = other();
-                const SampleLeague copy(folder.path(), players);
+                const SampleLeague copy(players);
                 return seconds([&] { mergeByHand(copy.context.dataFilePath, file); });
             });
         comparison.addMeasured(
             {"the same, copied and checked first", players, {.times = mostTimes}}, times,
-            [&folder, players, other] {
+            [players, other] {
                 const QString file = other();
-                SampleLeague copy(folder.path(), players);
+                SampleLeague copy(players);
                 return seconds([&] {
                     const MergeFile checked(copy.context, file);
                     mergeInto(copy.context, checked.database());
                 });
             },
-            [&folder, players, other] {
+            [players, other] {
                 const QString file = other();
-                const SampleLeague copy(folder.path(), players);
+                const SampleLeague copy(players);
                 return seconds([&] {
                     const QString work = copy.files.filePath("work.kmr");
                     QFile::copy(file, work);
-                    run(RawFile(work), "PRAGMA quick_check(1)");
+                    RawFile(work).run("PRAGMA quick_check(1)");
                     mergeByHand(copy.context.dataFilePath, work);
                 });
             });

@@ -57,7 +57,7 @@ private:
 /// All that the measurements of one league stand on.
 class Measurements {
 public:
-    Measurements(const QString& folder, int players) : league_(folder, players), raw_(league_.context.dataFilePath) {}
+    explicit Measurements(int players) : league_(players), raw_(league_.context.dataFilePath) {}
 
     void addTo(Comparison& comparison) {
         addFinds(comparison);
@@ -202,7 +202,7 @@ int main(int count, char** arguments) {
     Comparison comparison(&count, arguments);
     std::vector<std::unique_ptr<Measurements>> all;
     for (const int players : leagueSizes) {
-        all.push_back(std::make_unique<Measurements>(QCoreApplication::applicationDirPath(), players));
+        all.push_back(std::make_unique<Measurements>(players));
         all.back()->addTo(comparison);
     }
     return comparison.run();

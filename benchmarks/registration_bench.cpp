@@ -18,7 +18,7 @@
 namespace {
 
 struct League : SampleLeague {
-    League(const QString& folder, int players) : SampleLeague(folder, players) {
+    explicit League(int players) : SampleLeague(players) {
         loadGlobals(context);
         settings.write("WindowSettings\\frmRegister", "ShowGuardianMsg", "False");
         parts.screens().show("frmRegister");
@@ -77,7 +77,7 @@ int main(int count, char** arguments) {
     Comparison comparison(&count, arguments);
     std::vector<std::unique_ptr<League>> leagues;
     for (const int players : leagueSizes) {
-        leagues.push_back(std::make_unique<League>(QCoreApplication::applicationDirPath(), players));
+        leagues.push_back(std::make_unique<League>(players));
         measure(comparison, *leagues.back(), players);
     }
     return comparison.run();

@@ -1,7 +1,6 @@
 #include <malloc.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QPainter>
@@ -170,13 +169,6 @@ private:
     QByteArray head_;
     QByteArrayList around_;
 };
-
-double seconds(const std::function<void()>& work) {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return double(timer.nsecsElapsed()) * 1e-9;
-}
 
 double memoryLine(const char* name) {
     QFile status("/proc/self/status");

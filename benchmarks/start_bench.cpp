@@ -106,7 +106,7 @@ int main(int count, char** arguments) {
     Comparison comparison(&count, arguments);
     std::vector<std::unique_ptr<SampleLeague>> leagues;
     for (const int players : leagueSizes) {
-        leagues.push_back(std::make_unique<SampleLeague>(QCoreApplication::applicationDirPath(), players));
+        leagues.push_back(std::make_unique<SampleLeague>(players));
         const QString path = leagues.back()->context.dataFilePath;
         const auto seconds = [path](const QString& kind) { return [path, kind] { return run(kind, path).seconds; }; };
         const auto bytes = [path](const QString& kind) { return [path, kind] { return run(kind, path).bytes; }; };

@@ -36,7 +36,7 @@ void showTab(QWidget& screen, const QString& caption) {
 }
 
 struct League : SampleLeague {
-    League(const QString& folder, int players) : SampleLeague(folder, players) {
+    explicit League(int players) : SampleLeague(players) {
         loadGlobals(context);
         // A division of its own with one team and two thousand players without one, each rated.
         run("INSERT INTO tblDivision ([DivName]) VALUES (\"!Draft\")");
@@ -202,8 +202,8 @@ int main(int count, char** arguments) {
     QApplication application(count, arguments);
     Comparison comparison(&count, arguments);
     constexpr int players = 100000;
-    League draft(QCoreApplication::applicationDirPath(), players);
-    League grades(QCoreApplication::applicationDirPath(), players);
+    League draft(players);
+    League grades(players);
     ListMover plainLists("lstPlain", "Unassigned", "Team");
     SearchCombo plainList("People");
     measureAssignments(comparison, draft, &plainLists);

@@ -18,16 +18,10 @@ constexpr int players = 100000;
 constexpr int startPlayers = 5;  ///< those that every older file comes with
 constexpr double mostTimes = 1.3;
 
-void run(const RawFile& file, const QString& statement) {
-    char* error = nullptr;
-    if (sqlite3_exec(file.handle(), statement.toUtf8().constData(), nullptr, nullptr, &error) != SQLITE_OK)
-        qFatal("%s: %s", qPrintable(statement), error);
-}
-
 QString firstVersionFile(const QString& folder) {
     const QString path = folder + "/first.kmr";
     olderfile::make(path, 0);
-    run(RawFile(path),
+    RawFile(path).run(
         QString(
             "INSERT INTO tblRegistration (PlayerLastName, PlayerFirstName, PlayerBirthDate, PlayerDivisionId, "
             "PlayerTeamId, PlayerAddress1, PlayerCity, PlayerStateId, PlayerZipCode, PlayerZipCode4, PlayerPhone, "
@@ -73,14 +67,14 @@ void upgradeByHand(const QString& path) {
     {
         const RawFile file(path);
         const auto step = [&](const QStringList& statements) {
-            run(file, "BEGIN IMMEDIATE");
-            for (const QString& statement : statements) run(file, statement);
-            run(file, "COMMIT");
+            file.run("BEGIN IMMEDIATE");
+            for (const QString& statement : statements) file.run(statement);
+            file.run("COMMIT");
         };
-        run(file, "PRAGMA writable_schema = ON");
+        file.run("PRAGMA writable_schema = ON");
         step({"UPDATE sqlite_schema SET sql = " + datafile::sql::literal(datafile::sql::createTable(wide)) +
               " WHERE type = 'table' AND name = 'tblRegistration'"});
-        run(file, "PRAGMA writable_schema = RESET");
+        file.run("PRAGMA writable_schema = RESET");
         step({"UPDATE tblRegistration SET PlayerAmountPaid = PlayerFeePaid"});
         step({"UPDATE tblRegistration SET PlayerSchoolName = '' WHERE PlayerSchoolName IS NULL"});
         step(
@@ -105,8 +99,8 @@ void upgradeByHand(const QString& path) {
         for (const datafile::IndexDef& index : end.indexes)
             finish << datafile::sql::createIndex("tblRegistration", index);
         step(finish);
-        run(file, "VACUUM INTO " + datafile::sql::literal(path + ".CPT"));
-        run(RawFile(path + ".CPT"), "PRAGMA integrity_check(1)");
+        file.run("VACUUM INTO " + datafile::sql::literal(path + ".CPT"));
+        RawFile(path + ".CPT").run("PRAGMA integrity_check(1)");
     }
     QFile::remove(path);
     QFile::rename(path + ".CPT", path);
@@ -133,8 +127,8 @@ int main(int count, char** arguments) {
     const QTemporaryDir folder;
     const QString first = firstVersionFile(folder.path());
     const QString flagged = folder.filePath("flagged.kmr");
-    if (!QFile::copy(sampleFile(folder.path(), players), flagged)) qFatal("The sample league could not be copied.");
-    run(RawFile(flagged), "UPDATE tblRegistration SET DeletedFlag = PlayerId % 2");
+    if (!QFile::copy(sampleFile(players), flagged)) qFatal("The sample league could not be copied.");
+    RawFile(flagged).run("UPDATE tblRegistration SET DeletedFlag = PlayerId % 2");
 
     Comparison comparison(&count, arguments);
     comparison.add(
@@ -152,7 +146,7 @@ int main(int count, char** arguments) {
         },
         [&] {
             FreshCopy copy(flagged);
-            run(RawFile(copy.path), "DELETE FROM tblRegistration WHERE DeletedFlag = 1");
+            RawFile(copy.path).run("DELETE FROM tblRegistration WHERE DeletedFlag = 1");
         });
     return comparison.run();
 }
