@@ -2,43 +2,17 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QGuiApplication>
 
+#include "maintenance/BusyBar.h"
 #include "maintenance/work/Backup.h"
 #include "maintenance/work/Codes.h"
 #include "shell/Program.h"
 #include "shell/Screens.h"
-#include "shell/frmStatusBar.h"
 #include "store/CorrectVersion.h"
 
 namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("Backup", text); }
-
-/// For the length of a work on the whole file: the busy pointer, and a bar that takes the place of all input.
-class Busy {
-public:
-    Busy(const QString& text, int maximum) {
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-        bar_.setModal(true);
-        bar_.Init(text, maximum);
-    }
-    ~Busy() {
-        bar_.Done();
-        QGuiApplication::restoreOverrideCursor();
-    }
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
-
-    void show(int position, const QString& text = {}) { bar_.Update(position, text); }
-    /// Moves the bar from `from` on as the work is told to come on.
-    archive::Progress from(int from, const QString& text) {
-        return [this, from, text](int percent) { show(from + percent, text); };
-    }
-
-private:
-    frmStatusBar bar_;
-};
 
 QString archiveFilters() { return tr("Archive File (*.zip)|*.zip|All Files(*.*)|*.*"); }
 
@@ -50,7 +24,7 @@ void BackupFlow::prepareBackup() {
     if (!MakeSafetyCopy(program_.store)) return;
     QString failure;
     {
-        const Busy busy(tr("Compacting the data file..."), 0);
+        const BusyBar busy(tr("Compacting the data file..."), 0);
         try {
             compactWithoutWorkTables(program_.store);
         } catch (const datafile::Error& error) {
@@ -72,10 +46,9 @@ void BackupFlow::backUp() {
     if (!archive) return program_.dialogs().information(tr("Backup Cancelled"), tr("Backup Cancelled!"));
     int code = 0;
     {
-        constexpr int whole = 100;
-        Busy busy(tr("Backing up the data file..."), 2 * whole);
-        code = ::backUp(program_.store, *archive, busy.from(0, {}),
-                        busy.from(whole, tr("Comparing the backup with the data file...")));
+        BusyBar busy(tr("Backing up the data file..."), 2 * BusyBar::whole);
+        code = ::backUp(program_.store, *archive, busy.from(0),
+                        busy.from(BusyBar::whole, tr("Comparing the backup with the data file...")));
     }
     tell(backupResult(code));
 }
@@ -93,9 +66,8 @@ void BackupFlow::restore() {
                                               tr("The Archive file does not exist.\n\nRestore Cancelled."));
     int code = 0;
     {
-        constexpr int whole = 100;
-        Busy busy(tr("Restoring the data file..."), whole);
-        code = ::restore(program_.store, *archive, program_.homeFolder(), busy.from(0, {}));
+        BusyBar busy(tr("Restoring the data file..."));
+        code = ::restore(program_.store, *archive, program_.homeFolder(), busy.from(0));
         program_.screens.showAnew();
     }
     tell(restoreResult(code));
@@ -110,7 +82,7 @@ void BackupFlow::compact() {
     if (!program_.screens.offerToSave() || !MakeSafetyCopy(program_.store)) return;
     QStringList failures;
     {
-        Busy busy(tr("Removing the records that are marked as deleted..."), 2);
+        BusyBar busy(tr("Removing the records that are marked as deleted..."), 2);
         failures = purgeDeletedRows(program_.store);
         busy.show(1, tr("Compacting the data file..."));
         try {

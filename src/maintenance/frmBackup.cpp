@@ -2,12 +2,12 @@
 
 #include <QButtonGroup>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "maintenance/BackupFlow.h"
+#include "platform/widgets/ButtonRow.h"
 #include "platform/widgets/FormLayout.h"
 #include "shell/Program.h"
 
@@ -42,7 +42,12 @@ frmBackup::frmBackup(Program& program) : program_(program) {
     layout->setSpacing(spacing::group);
     layout->addWidget(optionFrame());
     layout->addStretch(1);
-    layout->addWidget(buttonRow());
+    auto* buttons = new ButtonRow(this);
+    ok_ = buttons->add("cmdOk", tr("&Ok"), [this] { run(); });
+    ok_->setDefault(true);
+    buttons->add("cmdCancel", tr("&Cancel"), [this] { reject(); });
+    buttons->add("cmdExit", tr("E&xit"), [this] { reject(); });
+    layout->addWidget(buttons);
     connect(optType_, &QButtonGroup::idToggled, this, [this](int option, bool chosen) {
         if (chosen) showOption(option);
     });
@@ -66,25 +71,6 @@ QWidget* frmBackup::optionFrame() {
         column->addWidget(choice);
     }
     return frame;
-}
-
-QWidget* frmBackup::buttonRow() {
-    auto* buttons = new QWidget;
-    auto* row = new QHBoxLayout(buttons);
-    row->setContentsMargins({});
-    row->addStretch(1);
-    const auto add = [&](const char* name, const QString& caption, auto press) {
-        auto* button = new QPushButton(caption);
-        button->setObjectName(QLatin1String(name));
-        connect(button, &QPushButton::clicked, this, press);
-        row->addWidget(button);
-        return button;
-    };
-    ok_ = add("cmdOk", tr("&Ok"), &frmBackup::run);
-    ok_->setDefault(true);
-    add("cmdCancel", tr("&Cancel"), &QDialog::reject);
-    add("cmdExit", tr("E&xit"), &QDialog::reject);
-    return buttons;
 }
 
 void frmBackup::showOption(int option) { ok_->setText(tr(options[option].order)); }

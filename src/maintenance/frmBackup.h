@@ -15,7 +15,6 @@ public:
 
 private:
     QWidget* optionFrame();
-    QWidget* buttonRow();
     void showOption(int option);
     void run();
 

@@ -1,7 +1,6 @@
 #include "maintenance/frmMerge.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QGuiApplication>
 #include <QLabel>
@@ -9,56 +8,27 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
-#include <QWindow>
 
+#include "maintenance/BusyBar.h"
 #include "maintenance/merge/MergeFile.h"
 #include "maintenance/merge/MergeRun.h"
 #include "platform/files/Files.h"
+#include "platform/widgets/ButtonRow.h"
 #include "platform/widgets/FormLayout.h"
 #include "shell/Program.h"
 #include "shell/Screens.h"
-#include "shell/frmStatusBar.h"
 #include "shell/frmUpdateStatus.h"
 
 namespace {
 
 constexpr char workFolder[] = "Merge File";
-constexpr int whole = 100;
-constexpr int mostMilliseconds = 200;  ///< that a desktop may take to bring up a window
-
-/// For the time in which the chosen file is unpacked, copied and checked: the busy pointer, and a bar that takes the
-/// place of all input.
-class Reading {
-public:
-    explicit Reading(const QString& text) {
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-        bar_.setModal(true);
-        bar_.Init(text, whole);
-        // What follows may take a while before it shows anything: the bar is to be seen by then.
-        for (const QDeadlineTimer patience(mostMilliseconds); !patience.hasExpired();) {
-            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-            if (bar_.windowHandle() && bar_.windowHandle()->isExposed()) break;
-        }
-        bar_.repaint();
-    }
-    ~Reading() {
-        bar_.Done();
-        QGuiApplication::restoreOverrideCursor();
-    }
-    Reading(const Reading&) = delete;
-    Reading& operator=(const Reading&) = delete;
-    void show(int percent) { bar_.Update(percent, {}); }
-
-private:
-    frmStatusBar bar_;
-};
 
 class StatusWindow final : public MergeProgress {
 public:
     explicit StatusWindow(frmUpdateStatus& window) : window_(window) {}
     void begin(const QString& text) override { window_.showStep(text); }
     void reached(double part, bool writing) override {
-        const int percent = static_cast<int>(part * whole);
+        const int percent = static_cast<int>(part * BusyBar::whole);
         if (writing)
             window_.showPart(percent);
         else
@@ -103,28 +73,14 @@ frmMerge::frmMerge(Program& program) : program_(program) {
     layout->setSpacing(spacing::margin);
     layout->addWidget(heading);
     layout->addWidget(instructions, 1);
-    layout->addWidget(buttonRow());
-    constexpr int titleBar = 40;  // of the desktop's window manager
-    resize(QSize(620, 400).boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(0, titleBar)));
-}
-
-QWidget* frmMerge::buttonRow() {
-    buttons_ = new QWidget(this);
-    auto* row = new QHBoxLayout(buttons_);
-    row->setContentsMargins({});
-    row->addStretch(1);
-    const auto add = [&](const char* name, const QString& caption, auto press) {
-        auto* button = new QPushButton(caption, buttons_);
-        button->setObjectName(name);
-        connect(button, &QPushButton::clicked, this, press);
-        row->addWidget(button);
-        return button;
-    };
-    QPushButton* merge = add("cmdMerge", tr("&Merge"), &frmMerge::merge);
+    buttons_ = new ButtonRow(this);
+    layout->addWidget(buttons_);
+    QPushButton* merge = buttons_->add("cmdMerge", tr("&Merge"), [this] { this->merge(); });
     merge->setDefault(true);
     merge->setFocus();
-    add("cmdClose", tr("&Close"), &frmMerge::reject);
-    return buttons_;
+    buttons_->add("cmdClose", tr("&Close"), [this] { reject(); });
+    constexpr int titleBar = 40;  // of the desktop's window manager
+    resize(QSize(620, 400).boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(0, titleBar)));
 }
 
 void frmMerge::reject() {
@@ -168,8 +124,8 @@ std::optional<QString> frmMerge::unpacked(const QString& chosen) {
     if (isLocalFile(copy)) return copy;  // it must not be overwritten
     archive::Fault fault = archive::Fault::None;
     {
-        Reading bar(tr("Unpacking the backup..."));
-        fault = unpackForMerge(chosen, copy, [&bar](int percent) { bar.show(percent); });
+        BusyBar bar(tr("Unpacking the backup..."));
+        fault = unpackForMerge(chosen, copy, bar.from(0));
     }
     if (fault == archive::Fault::None) return copy;
     program_.dialogs().warning(tr("Restore Error..."),
@@ -196,9 +152,9 @@ std::unique_ptr<MergeFile> frmMerge::open(const QString& path) {
     std::unique_ptr<MergeFile> file;
     QString failure;
     {
-        Reading bar(tr("Reading the data that is to be merged..."));
+        BusyBar bar(tr("Reading the data that is to be merged..."));
         try {
-            file = std::make_unique<MergeFile>(program_.store, path, [&bar](int percent) { bar.show(percent); });
+            file = std::make_unique<MergeFile>(program_.store, path, bar.from(0));
         } catch (const datafile::Error& error) {
             failure = numbered(error);
         }

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+class ButtonRow;
 class MergeFile;
 struct Program;
 
@@ -17,7 +18,6 @@ public:
     void reject() override;
 
 private:
-    QWidget* buttonRow();
     void merge();
     std::optional<QString> chooseFile();
     /// The file to be read for a chosen one: itself, or what was unpacked from a backup. Nothing when it cannot be.
@@ -29,6 +29,6 @@ private:
     void run(const MergeFile& file);
 
     Program& program_;
-    QWidget* buttons_ = nullptr;
+    ButtonRow* buttons_ = nullptr;
     bool running_ = false;
 };

@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -12,6 +11,7 @@
 
 #include "maintenance/work/NewSeason.h"
 #include "platform/text/Texts.h"
+#include "platform/widgets/ButtonRow.h"
 #include "platform/widgets/FormBuilder.h"
 #include "platform/widgets/FormLayout.h"
 #include "shell/Program.h"
@@ -102,7 +102,7 @@ constexpr Frame frames[] = {{0, QT_TRANSLATE_NOOP("frmNewSeason", "Player Inform
 
 }  // namespace
 
-frmNewSeason::frmNewSeason(Program& program) : program_(program), form_(new Form(this)) {
+frmNewSeason::frmNewSeason(Program& program) : program_(program), form_(new Form(this)), buttons_(new ButtonRow(this)) {
     setObjectName(QStringLiteral("frmNewSeason"));
     setWindowTitle(tr("New Season Configuration"));
     readYear();
@@ -117,13 +117,14 @@ frmNewSeason::frmNewSeason(Program& program) : program_(program), form_(new Form
     layout->setContentsMargins(spacing::margin, spacing::margin, spacing::margin, spacing::margin);
     layout->addWidget(heading);
     layout->addWidget(form_, 1);
-    layout->addWidget(buttonRow());
+    layout->addWidget(buttons_);
+    addButtons();
     connect(form_, &Form::changed, this, &frmNewSeason::edited);
     connect(form_, &Form::left, this, &frmNewSeason::leftField);
     showBoxes();
     arm(false);
     form_->focusField(QLatin1String(yearBox));
-    resize(QSize(1080, 500).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    resize(QSize(1080, 540).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
 }
 
 void frmNewSeason::addYear(FormBuilder& builder) {
@@ -147,22 +148,10 @@ void frmNewSeason::addBoxes(FormBuilder& builder) {
     builder.below();
 }
 
-QWidget* frmNewSeason::buttonRow() {
-    buttons_ = new QWidget(this);
-    auto* row = new QHBoxLayout(buttons_);
-    row->setContentsMargins({});
-    row->addStretch(1);
-    const auto add = [&](const char* name, const QString& caption, auto press) {
-        auto* button = new QPushButton(caption, buttons_);
-        button->setObjectName(QLatin1String(name));
-        connect(button, &QPushButton::clicked, this, press);
-        row->addWidget(button);
-        return button;
-    };
-    go_ = add("cmdNewSeasonGo", tr("&Go!"), &frmNewSeason::go);
-    refresh_ = add("cmdNewSeasonRefresh", tr("&Refresh"), &frmNewSeason::refresh);
-    add("cmdNewSeasonClose", tr("&Close"), &frmNewSeason::reject);
-    return buttons_;
+void frmNewSeason::addButtons() {
+    go_ = buttons_->add("cmdNewSeasonGo", tr("&Go!"), [this] { go(); });
+    refresh_ = buttons_->add("cmdNewSeasonRefresh", tr("&Refresh"), [this] { refresh(); });
+    buttons_->add("cmdNewSeasonClose", tr("&Close"), [this] { reject(); });
 }
 
 void frmNewSeason::readYear() {

@@ -4,6 +4,7 @@
 
 #include "maintenance/work/SeasonBoxes.h"
 
+class ButtonRow;
 class Form;
 class FormBuilder;
 class QPushButton;
@@ -21,7 +22,7 @@ public:
 private:
     void addYear(FormBuilder& builder);
     void addBoxes(FormBuilder& builder);
-    QWidget* buttonRow();
+    void addButtons();
     void edited(const QString& field);
     void leftField(const QString& field);
     bool isYearValid();
@@ -36,7 +37,7 @@ private:
     QString year_;
     SeasonBoxes boxes_;
     Form* form_;
-    QWidget* buttons_ = nullptr;
+    ButtonRow* buttons_;
     QPushButton* go_ = nullptr;
     QPushButton* refresh_ = nullptr;
     bool running_ = false;

@@ -2,6 +2,7 @@
 
 #include "platform/text/Numbers.h"
 #include "platform/text/Texts.h"
+#include "platform/widgets/ButtonRow.h"
 #include "platform/widgets/ChoiceBox.h"
 #include "platform/widgets/FormBuilder.h"
 #include "platform/widgets/FormLayout.h"
@@ -52,21 +53,11 @@ frmOptions::frmOptions(Program& program, Page page)
 }
 
 QWidget* frmOptions::buttonRow() {
-    buttons_ = new QWidget(this);
-    auto* row = new QHBoxLayout(buttons_);
-    row->setContentsMargins({});
-    row->addStretch(1);
-    const auto add = [&](const char* name, const QString& caption, auto press) {
-        auto* button = new QPushButton(caption, buttons_);
-        button->setObjectName(QLatin1String(name));
-        connect(button, &QPushButton::clicked, this, press);
-        row->addWidget(button);
-        return button;
-    };
-    save_ = add("cmdSave", tr("&Save"), [this] { save(); });
-    cancel_ = add("cmdCancel", tr("Can&cel"), [this] { cancel(); });
-    close_ = add("cmdClose", tr("Cl&ose"), [this] { reject(); });
-    return buttons_;
+    auto* buttons = new ButtonRow(this);
+    save_ = buttons->add("cmdSave", tr("&Save"), [this] { save(); });
+    cancel_ = buttons->add("cmdCancel", tr("Can&cel"), [this] { cancel(); });
+    close_ = buttons->add("cmdClose", tr("Cl&ose"), [this] { reject(); });
+    return buttons_ = buttons;
 }
 
 void frmOptions::showState() {
