@@ -415,8 +415,11 @@ inline void Merge::results() {
                           {"HomeTeamId", team(row.number("HomeTeamId"), ours)},
                           {"VisitorTeamId", team(row.number("VisitorTeamId"), ours)}}});
     }
-    const auto sameTime = [](const Row& one, const Row& other) {
-        return QTime::fromString(one["GameTime"], "HH:mm:ss") == QTime::fromString(other["GameTime"], "HH:mm:ss");
+    std::map<qint64, QString> written;  // the source's times by local row: a missing one is written as now
+    const auto isAt = [&](const Row& each, const Game& game) {
+        const auto found = written.find(each.rowid);
+        const QString time = found == written.end() ? each["GameTime"] : found->second;
+        return QTime::fromString(time, "HH:mm:ss") == QTime::fromString(game.row["GameTime"], "HH:mm:ss");
     };
     const auto isOf = [](const Row& each, const Game& game) {
         return std::all_of(game.keys.keyBegin(), game.keys.keyEnd(),
@@ -424,17 +427,18 @@ inline void Merge::results() {
                each["GameDate"] == game.row["GameDate"];
     };
     for (const Game& game : games) {
-        Row* ours = findLocal(table, [&](const Row& each) { return isOf(each, game) && sameTime(each, game.row); });
+        Row* ours = findLocal(table, [&](const Row& each) { return isOf(each, game) && isAt(each, game); });
         if (!ours)
             ours = findLocal(table, [&](const Row& each) {
                 return isOf(each, game) && std::none_of(games.begin(), games.end(), [&](const Game& other) {
-                           return isOf(each, other) && sameTime(each, other.row);
+                           return isOf(each, other) && isAt(each, other);
                        });
             });
         if (ours)
             copy(table, *ours, game.row, game.keys);
         else
-            add(table, game.row, game.keys, "GameId");
+            ours = &add(table, game.row, game.keys, "GameId");
+        written[ours->rowid] = game.row["GameTime"];
     }
 }
 
