@@ -32,6 +32,7 @@ void fillFamilyLabels(StoreContext& store, std::optional<int> divisionId) {
 
 LeagueReport Reports::labels(const ReportInput& input, const Field& name, const report::Query& query) {
     ReportDefinition sheet;
+    sheet.title = tr("Mailing Labels");
     sheet.query = query;
     sheet.typeface = Typeface::Label;
     sheet.points = 11;

@@ -84,7 +84,7 @@ ReportDefinition Reports::ratingList(const ReportInput& input, const QString& ti
         return Column{.caption = caption, .field = rated, .share = 9};
     };
     list.columns = {
-        {tr("Player Name"), lastFirst("PlayerLastName", "PlayerFirstName"), 28},
+        {tr("Player Name"), lastFirst("PlayerLastName", "PlayerFirstName"), 25},
         {tr("Birth Date"), date("PlayerBirthDate"), 11, Alignment::Right},
         {tr("Age"), playerAge(input), 6, Alignment::Center},
         grade(tr("Pitcher"), skills[0]),
@@ -95,8 +95,8 @@ ReportDefinition Reports::ratingList(const ReportInput& input, const QString& ti
         grade(tr("Throwing"), skills[5]),
         grade(tr("Running"), skills[6]),
         grade(tr("Knowl."), skills[7]),
-        {tr("Total Rating"), total(skills), 9},
-        {tr("Avg. Rating"), average(), 9},
+        {tr("Total Rating"), total(skills), 10.5},
+        {tr("Avg. Rating"), average(), 10.5},
     };
     return list;
 }

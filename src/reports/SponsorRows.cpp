@@ -28,7 +28,7 @@ ReportDefinition Reports::sponsorList(const ReportInput& input, const QString& t
     list.columns = {
         {tr("Sponsor Name"), column("SponsorName"), 24, {}, Total::Count},
         {tr("Contact"), column("SponsorContactName"), 18},
-        {tr("Phone"), phone("SponsorPhoneArea", "SponsorPhone"), 13},
+        {tr("Phone"), phone("SponsorPhoneArea", "SponsorPhone"), 14},
         {tr("Address"), joined({"SponsorAddress1", "SponsorAddress2"}), 20},
         {tr("City"), cityLine("SponsorCity", "SponsorStateId", "SponsorPostalCode", "SponsorCountryCode"), 20},
         {tr("Year"), column("SponsorPledgeYear"), 6, Alignment::Center},

@@ -73,7 +73,7 @@ ReportDefinition Reports::volunteerRecord(const ReportInput& input, const QStrin
 }
 
 ReportDefinition Reports::rptVolunteerPlayer() {
-    return part(tr("Players"), 24,
+    return part(tr("Players"), 23,
                 QueryText("SELECT DISTINCT VolId, PlayerLastName, PlayerFirstName, PlayerBirthDate "
                           "FROM tblRegistrationVolunteer INNER JOIN tblRegistration "
                           "ON tblRegistrationVolunteer!PlayerId = tblRegistration!PlayerId "
@@ -85,7 +85,7 @@ ReportDefinition Reports::rptVolunteerPlayer() {
 }
 
 ReportDefinition Reports::rptVolunteerPositions() {
-    return part(tr("Positions"), 13,
+    return part(tr("Positions"), 12,
                 QueryText("SELECT DISTINCT VolId, VolPosName FROM tblVolToPosition INNER JOIN tblVolunteerPositions "
                           "ON tblVolToPosition!VolPosId = tblVolunteerPositions!VolPosId "
                           "AND tblVolunteerPositions!DeletedFlag = False")
@@ -95,20 +95,20 @@ ReportDefinition Reports::rptVolunteerPositions() {
 
 ReportDefinition Reports::rptVolunteerAssignments() {
     return part(
-        tr("Teams"), 28,
+        tr("Teams"), 35,
         QueryText("SELECT VolId, VolPosName, DivName, TeamName FROM tblTeamVolunteer "
                   "LEFT JOIN tblDivision ON tblTeamVolunteer!DivisionId = tblDivision!DivisionId "
                   "AND tblDivision!DeletedFlag = False "
                   "LEFT JOIN tblTeam ON tblTeamVolunteer!TeamId = tblTeam!TeamId AND tblTeam!DeletedFlag = False")
             .where("tblTeamVolunteer!DeletedFlag = False"),
         "DivName, TeamName, VolPosName",
-        {{.field = staffPosition(), .share = 11},
+        {{.field = staffPosition(), .share = 14},
          {.field = column("DivName").orElse(tr("Unknown Division")), .share = 13},
-         {.field = column("TeamName").orElse(tr("Unknown Team")), .share = 13}});
+         {.field = column("TeamName").orElse(tr("Unknown Team")), .share = 11}});
 }
 
 ReportDefinition Reports::rptVolunteerCertifications() {
-    return part(tr("Certifications"), 32,
+    return part(tr("Certifications"), 33,
                 QueryText("SELECT VolId, CertifyingOrganization, CertificationName FROM tblVolunteerCertifications "
                           "INNER JOIN tblCertifications "
                           "ON tblVolunteerCertifications!CertificationId = tblCertifications!CertificationId "

@@ -20,7 +20,7 @@ LeagueReport Reports::rptPlayerReport9(const ReportInput& input) {
         {tr("City"), column("PlayerCity"), 12},
         {tr("ZipCode"), column("PlayerPostalCode"), 11},
         {tr("Phone"), phone("PlayerPhoneArea", "PlayerPhone"), 13},
-        {tr("Birth Date"), date("PlayerBirthDate"), 10.5, Alignment::Right},
+        {tr("Birth Date"), date("PlayerBirthDate"), 10.5},
         {tr("Guardians"), guardianNames(), 18},
         {tr("Guardian Phones"), guardianPhones(), 13},
         {tr("Gender"), column("PlayerGender"), 7},

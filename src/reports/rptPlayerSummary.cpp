@@ -22,7 +22,7 @@ LeagueReport Reports::rptPlayerSummary(const ReportInput& input) {
         {tr("School"), column("PlayerSchoolName"), 20},
         {tr("Grade"), column("PlayerGradeLevel"), 6, Alignment::Center},
         {tr("Years Played"), column("PlayerYearsExperience"), 6.5, Alignment::Center},
-        {tr("Registered"), date("PlayerRegistrationDate"), 9.5, Alignment::Right},
+        {tr("Registered"), date("PlayerRegistrationDate"), 9.5},
         {tr("Registration No."), column("PlayerRegistrationNumber"), 13},
     };
     list.totals = fixed(tr("Players:"));

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "platform/report/PagePainter.h"
 #include "platform/report/Report.h"
 #include "reports/Filled.h"
 #include "reports/Reports.h"
@@ -143,4 +144,28 @@ TEST(LabelCounts, FamiliesOfTheSampleLeagueFillTheSheetsFromTheStart) {
     const auto pages = report::paginate(run, report::paperFor(sheet.definition));
     pages->layOutAll();
     EXPECT_EQ(pages->pageCount(), 1 + (families - 1 + 29) / 30) << "one label on the first sheet";
+}
+
+/// In points: three labels of 2 5/8 by 1 inch across, 1/8 inch between them, 3/16 beside and 1/2 above and below.
+TEST(LabelGeometry, EveryTextStaysInsideItsLabel) {
+    SampleReports sample;
+    for (const MakeReport make : {Reports::rptLabelFormat1, Reports::rptLabelFormat2, Reports::rptLabelFormat3}) {
+        const LeagueReport sheet = make(sample.input());
+        const report::Report run{sheet.definition, storeRows(sample.league.database())};
+        const auto pages = report::paginate(run, report::paperFor(sheet.definition, QPageSize(QPageSize::A4)));
+        EXPECT_EQ(pages->paper().fullRect(QPageLayout::Point), QRectF(0, 0, 612, 792));
+        pages->layOutAll();
+        for (int index = 0; index < pages->pageCount(); ++index) {
+            const report::Page& page = *pages->page(index);
+            for (const report::TextItem& item : page.items) {
+                if (item.length == 0) continue;
+                const QRectF text = report::areasOf(*pages, page, item.start, item.length).at(0);
+                const QRectF area(text.topLeft() / report::unitsPerPoint, text.size() / report::unitsPerPoint);
+                const int column = int((area.center().x() - 13.5) / 198), row = int((area.center().y() - 36) / 72);
+                EXPECT_TRUE(column >= 0 && column < 3 && row >= 0 && row < 10) << column << ", " << row;
+                EXPECT_TRUE(QRectF(13.5 + 198 * column, 36 + 72 * row, 189, 72).contains(area))
+                    << page.textOf(item).toString().toStdString();
+            }
+        }
+    }
 }

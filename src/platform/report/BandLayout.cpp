@@ -184,7 +184,7 @@ void addCheckBox(Page& piece, const Cell& cell, const MeasuredCell& measured, do
     const QRectF square(measured.textLeft - labelGap - side, baseline - side, side, side);
     addFrame(piece, square);
     if (!cell.isChecked()) return;
-    TextStyle style = scaled(cell.style, fontScale * 0.9);
+    TextStyle style = scaled(cell.style, fontScale * 0.7);  // the box stays visible around it at any zoom
     style.bold = true;
     const quint8 font = fonts.idOf(style);
     const QString cross = QStringLiteral("X");
@@ -237,10 +237,12 @@ LaidBand layOut(const Band& band, double left, double width, FontBook& fonts, do
 
     LaidBand laid{.level = band.level, .header = band.isHeader()};
     const double before = spacing.before * unitsPerPoint;
-    double ascent = 0;  // all first lines stand on one base line
+    double ascent = 0;  // all first lines stand on one base line; of column heads the last ones
+    size_t mostLines = 1;
     bool toWriteOn = false;
     for (size_t index = 0; index < cells.size(); ++index) {
         if (!band.cells[index].at) ascent = std::max(ascent, cells[index].ascent);
+        mostLines = std::max(mostLines, cells[index].lines.size());
         toWriteOn = toWriteOn || band.cells[index].fillIn == 1;
     }
     double top = before + spacing.above * unitsPerPoint;
@@ -249,10 +251,13 @@ LaidBand layOut(const Band& band, double left, double width, FontBook& fonts, do
     double bottom = top;
     for (size_t index = 0; index < cells.size(); ++index) {
         const Cell& cell = band.cells[index];
-        const double cellTop = cell.at ? before + cell.at->top() * unitsPerPoint + (cell.framed ? frameInset / 2 : 0)
-                                       : top + ascent - cells[index].ascent;
+        const double lineHeight = fonts.face(cells[index].font).lineHeight();
+        double cellTop = cell.at ? before + cell.at->top() * unitsPerPoint + (cell.framed ? frameInset / 2 : 0)
+                                 : top + ascent - cells[index].ascent;
+        if (band.kind == BandKind::ColumnHeads && !cells[index].lines.empty())
+            cellTop += double(mostLines - cells[index].lines.size()) * lineHeight;
         const double end = place(cell, cells[index], cellTop, laid.piece, fonts, fontScale);
-        bottom = std::max({bottom, cellTop + fonts.face(cells[index].font).lineHeight(), end});
+        bottom = std::max({bottom, cellTop + lineHeight, end});
         if (cell.at) bottom = std::max(bottom, before + cell.at->bottom() * unitsPerPoint);
     }
     laid.height = std::max(least, bottom + spacing.below * unitsPerPoint);

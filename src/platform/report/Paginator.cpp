@@ -18,9 +18,13 @@ QRectF inUnits(const QRectF& points) {
 
 using Items = std::vector<TextItem>::iterator;
 
-/// Some of a piece's items with the text that belongs to them.
-Page part(const Page& piece, Items from, Items to) {
+/// Some of a piece's items with the text that belongs to them, and its rules between two heights.
+Page part(const Page& piece, Items from, Items to, double top, double bottom) {
     Page result;
+    for (const Rule& rule : piece.rules) {
+        const QRectF area = rule.area & QRectF(rule.area.left(), top, rule.area.width(), bottom - top);
+        if (!area.isEmpty()) result.rules.push_back({area, rule.ink});
+    }
     for (Items item = from; item != to; ++item) {
         TextItem moved = *item;
         moved.start = quint32(result.text.size());
@@ -142,7 +146,7 @@ const LaidBand& Paginator::repeated(Header& header) {
 void Paginator::placeSplit(LaidBand band) {
     std::vector<TextItem> rest = std::move(band.piece.items);
     double top = 0;
-    while (!rest.empty()) {
+    for (;;) {
         const double space = body_.bottom() - y_;
         const auto bottomOf = [&](const TextItem& item) {
             return item.baseline + fonts_.face(item.font).descent() - top;
@@ -150,13 +154,13 @@ void Paginator::placeSplit(LaidBand band) {
         const auto topOf = [&](const TextItem& item) { return item.baseline - fonts_.face(item.font).ascent(); };
         auto fitting = std::stable_partition(rest.begin(), rest.end(),
                                              [&](const TextItem& item) { return bottomOf(item) <= space; });
-        if (fitting == rest.begin()) ++fitting;  // a page lower than a line: better cut than endless
-        append(current_, part(band.piece, rest.begin(), fitting), y_ - top);
+        if (fitting == rest.begin() && !rest.empty()) ++fitting;  // a page lower than a line: better cut than endless
+        double bottom = band.height;
+        for (Items left = fitting; left != rest.end(); ++left) bottom = std::min(bottom, topOf(*left));
+        append(current_, part(band.piece, rest.begin(), fitting, top, bottom), y_ - top);
         rest.erase(rest.begin(), fitting);
         if (rest.empty()) break;
-        top = topOf(*std::min_element(rest.begin(), rest.end(), [&](const TextItem& left, const TextItem& right) {
-            return topOf(left) < topOf(right);
-        }));
+        top = bottom;
         startPage();
     }
     y_ += band.height - top;

@@ -121,6 +121,7 @@ bool writeFile(const QString& path, const Report& report, FileFormat format, con
 bool print(QPrinter& printer, const Report& report, const Progress& progress) {
     const auto pages = paginate(report, paperFor(report.definition, printer.pageLayout().pageSize()));
     if (!layOut(*pages, progress)) return false;
+    printer.setDocName(report.definition.title);
     printer.setFullPage(true);
     if (report.definition.labels) printer.setPageSize(pages->paper().pageSize());
     printer.setPageOrientation(pages->paper().orientation());

@@ -103,7 +103,7 @@ struct NoData {
 ///
 /// Without a query's text there is one row in which every column is empty: a form to be filled in by hand.
 struct ReportDefinition {
-    QString title{};         ///< in the page header; without a title there is no page header
+    QString title{};         ///< of the file and its window, and in the page header, which labels do not have
     QString organization{};  ///< above the title
     QString asOf{};          ///< the report's date as text
     QString footer{};        ///< fixed text at the foot of every page

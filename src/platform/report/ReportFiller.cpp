@@ -151,14 +151,14 @@ TextStyle ReportFiller::style(bool bold, double larger, bool italic) const {
 }
 
 void ReportFiller::addTitle() {
-    if (definition_->title.isEmpty()) return;
+    if (definition_->title.isEmpty() || definition_->labels) return;
     add(BandKind::Title, -2).cells = {
         {.text = definition_->organization, .alignment = Alignment::Center, .style = style(true, 3)}};
     Band& band = add(BandKind::Title, -1);
     band.keepWithPrevious = true;
     const QString asOf = definition_->asOf.isEmpty() ? QString() : QString(tr("As Of:") % u' ' % definition_->asOf);
     band.cells = {{.share = 1, .style = style(false)},
-                  {.text = definition_->title, .alignment = Alignment::Center, .share = 3, .style = style(true, 7)},
+                  {.text = definition_->title, .alignment = Alignment::Center, .share = 4, .style = style(true, 6)},
                   {.text = asOf, .alignment = Alignment::Right, .share = 1, .style = style(false)}};
 }
 

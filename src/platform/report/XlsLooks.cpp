@@ -61,7 +61,13 @@ void addCellLook(XlsRecords& record, const CellLook& look) {
     const int borders = (look.ruleAbove ? thin << 8 : 0) | (look.ruleBelow ? thin << 12 : 0);
     const qint64 colors = qint64(automatic) | qint64(automatic) << 7 | (look.shaded ? qint64(1) << 26 : 0);
     record.begin(XlsRecords::CellFormat).u16(look.font).u16(look.numberFormat).u16(1);
-    record.u8(0x20 | alignmentNumber(look.alignment)).u8(0).u8(0).u8(0xfc).u32(borders).u32(colors);
+    constexpr int top = 0, wrap = 8;
+    record.u8(top | (look.wrapped ? wrap : 0) | alignmentNumber(look.alignment))
+        .u8(0)
+        .u8(0)
+        .u8(0xfc)
+        .u32(borders)
+        .u32(colors);
     record.u16((look.shaded ? gray : automatic) | (automatic + 1) << 7).end();
 }
 

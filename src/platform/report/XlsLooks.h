@@ -16,6 +16,7 @@ struct CellLook {
     bool shaded = false;
     bool ruleAbove = false;
     bool ruleBelow = false;
+    bool wrapped = false;  ///< else a long text runs over the empty cells beside it
     bool operator==(const CellLook&) const = default;
 };
 

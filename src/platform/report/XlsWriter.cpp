@@ -104,6 +104,7 @@ private:
 
     void writeRow(const Band& band) {
         const bool totals = band.kind == BandKind::GroupFooter || band.kind == BandKind::Totals;
+        const bool listed = band.kind == BandKind::Detail && !band.keepWithPrevious && !definition_.columns.empty();
         int column = band.indent;
         for (const Cell& cell : band.cells) {
             if (column >= mostColumns) break;
@@ -113,6 +114,7 @@ private:
             look.shaded = band.shaded;
             look.ruleAbove = totals;
             look.ruleBelow = band.kind == BandKind::ColumnHeads;
+            look.wrapped = listed || cell.text.contains(u'\n');
             if (const auto number = numberIn(cell)) {
                 look.numberFormat = number->format;
                 addNumber(column, number->value, look);

@@ -159,7 +159,7 @@ TEST(Paginator, WrapsLongTextInsideItsCell) {
 TEST(Paginator, GoesOnWithARowHigherThanAPage) {
     const QString text = longText(6000);
     std::vector<Band> bands = twoGroups(2, 1);
-    bands.insert(bands.begin() + 4, band(BandKind::Detail, 2, text));
+    bands.insert(bands.begin() + 4, band(BandKind::Detail, 2, text))->edges = TopEdge | SideEdges | BottomEdge;
     Paginator pages = paginator(bands);
     QStringList words;
     const auto all = allTexts(pages);
@@ -170,6 +170,16 @@ TEST(Paginator, GoesOnWithARowHigherThanAPage) {
     EXPECT_EQ(words, text.split(' '));
     EXPECT_EQ(all.back().last(), "totals");
     EXPECT_TRUE(all.at(0).contains("first row")) << "the row before it";
+    for (int index = 0; index < pages.pageCount(); ++index) {
+        const Page& page = *pages.page(index);
+        for (const TextItem& item : page.items) {
+            if (!page.textOf(item).startsWith(u"word")) continue;
+            const auto besideLine = [&](const Rule& rule) {
+                return rule.area.top() <= item.baseline && rule.area.bottom() >= item.baseline;
+            };
+            ASSERT_EQ(std::count_if(page.rules.begin(), page.rules.end(), besideLine), 2) << "page " << index;
+        }
+    }
 }
 
 TEST(Paginator, KeepsInsideTheMarginsOfEveryPaper) {
