@@ -22,6 +22,9 @@ frmMailingLabelOptions::frmMailingLabelOptions(int people, const LabelOptions& h
     layout->setSpacing(spacing::group);
     layout->addWidget(makeChoices(captions(people)));
     ages_ = makeAges(held);
+    QSizePolicy room = ages_->sizePolicy();
+    room.setRetainSizeWhenHidden(people == MailingLabels::Players);  // the buttons keep their place, on any screen
+    ages_->setSizePolicy(room);
     layout->addWidget(ages_);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);

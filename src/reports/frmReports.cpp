@@ -56,6 +56,10 @@ frmReports::frmReports(Program& program)
     wholeColumn->addLayout(makeButtons());
     setCentralWidget(whole);
 
+    for (const QButtonGroup* group : {categoryButtons_, optionButtons_, destinationButtons_})
+        connect(group, &QButtonGroup::buttonClicked, view, [view](QAbstractButton* button) {
+            view->ensureWidgetVisible(button);  // chosen by key, it may lie outside
+        });
     connect(categoryButtons_, &QButtonGroup::idClicked, this, &frmReports::showCategory);
     connect(optionButtons_, &QButtonGroup::idClicked, this, &frmReports::showOption);
     connect(destinationButtons_, &QButtonGroup::idClicked, this, &frmReports::showDestination);

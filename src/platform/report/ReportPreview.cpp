@@ -65,8 +65,10 @@ ReportPreview::ReportPreview(Report report, QPrinter& printer, Dialogs& dialogs,
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSpacing(0);
     QWidget* pages = makePages();
-    whole->addLayout(makeBar());
+    QBoxLayout* bar = makeBar();
+    whole->addLayout(bar);
     whole->addWidget(pages, 1);
+    if (bar->minimumSize().width() > screen()->availableSize().width()) bar->setDirection(QBoxLayout::TopToBottom);
     resize(1060, 700);
 
     new QShortcut(QKeySequence::ZoomIn, this, [this] { view_->setZoom(view_->zoom() * 1.25); });
@@ -104,17 +106,24 @@ QWidget* ReportPreview::makePages() {
     return splitter;
 }
 
-QLayout* ReportPreview::makeBar() {
-    auto* bar = new QHBoxLayout;
+QBoxLayout* ReportPreview::makeBar() {
     const int space = style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing);
-    bar->setContentsMargins(space * 2, space, space * 2, space);
-    bar->setSpacing(space * 3);
-    addButton<QPushButton>(bar, "cmdPrint", tr("&Print..."), tr("Print this report (Ctrl+P)"),
+    auto* pages = new QHBoxLayout;
+    pages->setSpacing(space * 3);
+    addButton<QPushButton>(pages, "cmdPrint", tr("&Print..."), tr("Print this report (Ctrl+P)"),
                            [this] { printPages(); });
-    bar->addLayout(makePageButtons());
-    bar->addLayout(makeZoomBox());
-    bar->addLayout(makeFindBox(), 1);
-    addButton<QPushButton>(bar, "cmdClose", tr("&Close"), tr("Close the preview (Esc)"), [this] { reject(); });
+    pages->addLayout(makePageButtons());
+    pages->addLayout(makeZoomBox());
+    pages->addStretch();
+    auto* text = new QHBoxLayout;
+    text->setSpacing(space * 3);
+    text->addLayout(makeFindBox(), 1);
+    addButton<QPushButton>(text, "cmdClose", tr("&Close"), tr("Close the preview (Esc)"), [this] { reject(); });
+    auto* bar = new QBoxLayout(QBoxLayout::LeftToRight);
+    bar->setContentsMargins(space * 2, space, space * 2, space);
+    bar->setSpacing(space * 2);
+    bar->addLayout(pages);
+    bar->addLayout(text, 1);
     return bar;
 }
 

@@ -8,6 +8,7 @@
 #include "platform/report/PageView.h"
 #include "platform/report/Report.h"
 
+class QBoxLayout;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -26,7 +27,7 @@ public:
     ~ReportPreview() override;
 
 private:
-    QLayout* makeBar();
+    QBoxLayout* makeBar();
     QLayout* makePageButtons();
     QLayout* makeZoomBox();
     QLayout* makeFindBox();
