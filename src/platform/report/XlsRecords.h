@@ -28,6 +28,7 @@ public:
         TextCell = 0xfd,
         Dimensions = 0x200,
         NumberCell = 0x203,
+        Row = 0x208,
         Window2 = 0x23e,
         CellStyle = 0x293,
         NumberFormat = 0x41e,

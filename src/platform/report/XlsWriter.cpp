@@ -47,6 +47,7 @@ class XlsWriter final : public BandWriter {
 public:
     XlsWriter(QIODevice& file, const ReportDefinition& definition, const QPageLayout& paper)
         : file_(file), definition_(definition), paper_(paper) {
+        shares_ = sharesOf(definition.columns);
         sheets_.emplace_back();
     }
 
@@ -104,9 +105,17 @@ private:
 
     void writeRow(const Band& band) {
         const bool totals = band.kind == BandKind::GroupFooter || band.kind == BandKind::Totals;
-        const bool listed = band.kind == BandKind::Detail && !band.keepWithPrevious && !definition_.columns.empty();
+        const bool ofList = band.kind == BandKind::Detail && !definition_.columns.empty();
+        const bool listed = ofList && !band.keepWithPrevious;
+        addRowHeight(band, listed);
+        const double shares = sharesOf(band.cells);
+        double start = 0;  // of the cell, as a part of the row's width
         int column = band.indent;
         for (const Cell& cell : band.cells) {
+            // A further line of a row has widths of its own.
+            if (ofList && !listed && band.indent == 0) column = std::max(column, columnAt(start));
+            start += cell.share / shares;
+            if (ofList && !listed && cell.text.isEmpty()) continue;
             if (column >= mostColumns) break;
             CellLook look;
             look.font = cell.style.bold ? CellLook::Bold : cell.style.italic ? CellLook::Italic : CellLook::Plain;
@@ -127,6 +136,45 @@ private:
         }
         sheets_.back().columns = std::max(sheets_.back().columns, std::min(column, mostColumns));
         endRow();
+    }
+
+    template <typename Cells>
+    static double sharesOf(const Cells& cells) {
+        return std::accumulate(cells.begin(), cells.end(), 0.0,
+                               [](double sum, const auto& cell) { return sum + cell.share; });
+    }
+
+    /// The column of the list that begins nearest to a part of its width.
+    int columnAt(double part) const {
+        int nearest = 0;
+        double start = 0, least = 1;
+        for (size_t index = 0; index < definition_.columns.size(); ++index) {
+            if (const double apart = std::abs(start - part); apart < least) least = apart, nearest = int(index);
+            start += definition_.columns[index].share / shares_;
+        }
+        return nearest;
+    }
+
+    /// Of a row of several lines; spreadsheets do not all see to that themselves.
+    void addRowHeight(const Band& band, bool wrapped) {
+        constexpr int lineHeight = 270;  // in twentieths of a point
+        qsizetype most = 1;
+        int column = band.indent;
+        for (const Cell& cell : band.cells) {
+            qsizetype lines = 1 + cell.text.count(u'\n');
+            const auto width = qsizetype(1.25 * widthOf(column));  // most letters are narrower than a digit
+            if (wrapped && cell.text.size() > width) lines = std::max(lines, (cell.text.size() + width - 1) / width);
+            most = std::max(most, lines);
+            column += std::max(1, cell.columns);
+        }
+        if (most == 1) return;
+        XlsRecords record(block_);
+        record.begin(XlsRecords::Row)
+            .u16(row_)
+            .u16(0)
+            .u16(mostColumns)
+            .u16(int(std::min<qsizetype>(most, 20)) * lineHeight);
+        record.u32(0).u32(0x100).end();
     }
 
     void addText(int column, const QString& text, const CellLook& look) {
@@ -226,20 +274,19 @@ private:
     }
 
     void addColumnWidths(XlsRecords& record, int count) const {
-        constexpr double usual = 18;  // characters
-        const double total = definition_.landscape ? 130 : 95;
-        const Line& columns = definition_.columns;
-        const double shares = std::accumulate(columns.begin(), columns.end(), 0.0,
-                                              [](double sum, const Column& column) { return sum + column.share; });
         for (int index = 0; index < count; ++index) {
-            double width = usual;
-            if (index < int(columns.size())) {
-                const Column& column = columns[size_t(index)];
-                width = std::clamp(column.share / shares * total, double(column.caption.size()) + 2, 80.0);
-            }
-            record.begin(XlsRecords::ColumnInfo).u16(index).u16(index).u16(int(width * 256)).u16(XlsLooks::usual);
-            record.u16(0).u16(0).end();
+            record.begin(XlsRecords::ColumnInfo).u16(index).u16(index).u16(int(widthOf(index) * 256));
+            record.u16(XlsLooks::usual).u16(0).u16(0).end();
         }
+    }
+
+    /// Of a column, in characters.
+    double widthOf(int index) const {
+        constexpr double usual = 18;
+        const double total = definition_.landscape ? 130 : 95;
+        if (index >= int(definition_.columns.size())) return usual;
+        const Column& column = definition_.columns[size_t(index)];
+        return std::clamp(column.share / shares_ * total, double(column.caption.size()) + 2, 80.0);
     }
 
     static QByteArray sheetEnd(size_t index) {
@@ -252,6 +299,7 @@ private:
     QIODevice& file_;
     const ReportDefinition& definition_;
     QPageLayout paper_;
+    double shares_ = 0;  ///< of all columns
     std::vector<Sheet> sheets_;
     int row_ = 0;
     bool lastWasHeader_ = true;

@@ -82,6 +82,7 @@ TEST_F(ReportFile, ExcelCellsHaveTheirTypes) {
     holds("office:value=\"0.333\"");
     holds("office:value=\"19\"");
     holds("<text:p>two</text:p><text:p>lines</text:p>");
+    EXPECT_GE(count(read, "style:row-height=\"0\\.(3[5-9]|4)"), 1) << "inches of a row of two lines";
     holds("table:name=\"Fees- A-B &amp; &lt;C&gt;\"");
     EXPECT_EQ(count(read, "<table:table "), 1);
 }
