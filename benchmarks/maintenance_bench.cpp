@@ -1,3 +1,5 @@
+#include <fcntl.h>
+#include <unistd.h>
 #include <zip.h>
 
 #include <QCoreApplication>
@@ -91,12 +93,20 @@ void openSeason(StoreContext& context) {
     runNewSeason(context, boxes, "2027", {nothing, nothing, [](int) {}});
 }
 
+/// What is written counts when it is on disk.
+void sync(const QString& path) {
+    const int file = ::open(QFile::encodeName(path), O_RDONLY | O_CLOEXEC);
+    must(::fsync(file) == 0, "Syncing");
+    ::close(file);
+}
+
 void zipByHand(const QString& file, const QString& archive) {
     zip_t* zip = zip_open(QFile::encodeName(archive), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
     const zip_int64_t member =
         zip_file_add(zip, "Kestrelmoor.kmr", zip_source_file(zip, QFile::encodeName(file), 0, -1), 0);
     zip_set_file_compression(zip, static_cast<zip_uint64_t>(member), ZIP_CM_DEFLATE, 9);
     must(zip_close(zip) == 0, "Packing by hand");
+    sync(archive);
 }
 
 void unzipByHand(const QString& archive, const QString& to) {
@@ -109,6 +119,7 @@ void unzipByHand(const QString& archive, const QString& to) {
         must(count > 0 && (to.isEmpty() || file.write(block.constData(), count) == count), "Unpacking by hand");
     zip_fclose(member);
     zip_discard(zip);
+    if (!to.isEmpty()) sync(to);
 }
 
 void measureSeason(Comparison& comparison, int players) {
