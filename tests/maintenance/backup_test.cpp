@@ -65,9 +65,12 @@ TEST_F(Backup, ComesBackUnderOpenHandlesAndBesideStaleJournals) {
     EXPECT_EQ(open.text("SchoolName"), QString("Oak"));
     const QByteArray now = bytes(league.path());
     write(league.path() + "-wal", "of another file");
+    const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    ASSERT_TRUE(QFile::setPermissions(league.path(), permissions | QFile::ReadGroup));
     int told = 0;
     EXPECT_EQ(restore(league.context, at("a.zip"), home, [&](int percent) { told = percent; }), 0);
     EXPECT_EQ(told, wholeNumbers);
+    EXPECT_EQ(QFile::permissions(league.path()), permissions | QFile::ReadGroup);
     EXPECT_EQ(open.text("SchoolName"), QString("Elm"));
     EXPECT_EQ(bytes(safetyCopyPath(league.context)), now);
     EXPECT_EQ(filesIn(home), (QStringList{"Kestrelmoor.BKM", "Kestrelmoor.kmr"}));

@@ -55,6 +55,8 @@ QByteArray bytesOf(const QString& path) {
     return file.readAll();
 }
 
+constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+
 class SecondFile : public testing::Test {
 protected:
     SecondFile() { makeBaseFile(path); }
@@ -141,7 +143,6 @@ TEST_F(SecondFile, JournalBesideItIsObeyedInTheCopyAlone) {
     const MergeFile file(local.context, broken);
     ASSERT_EQ(file.code(), MergeFile::Code::Fits);
     ASSERT_EQ(copies().size(), 1);
-    constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
     EXPECT_TRUE(copies()[0].permission(QFile::ReadOwner | QFile::WriteOwner));
     EXPECT_FALSE(copies()[0].permissions() & others);
     EXPECT_EQ(file.database().openRecordset("SELECT * FROM tblVendor WHERE VendorName = \"half saved\"").recordCount(),
@@ -163,6 +164,7 @@ TEST_F(SecondFile, ComesOutOfABackup) {
     }
     EXPECT_EQ(unpackForMerge(zip, copy), archive::Fault::None);
     EXPECT_EQ(bytesOf(copy), bytesOf(local.path()));
+    EXPECT_FALSE(QFile::permissions(copy) & others);
     EXPECT_FALSE(QFile::exists(copy + "-journal"));
 
     ASSERT_EQ(archive::pack(path, zip), archive::Fault::None);  // holds "second.kmr"

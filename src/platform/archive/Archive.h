@@ -53,7 +53,8 @@ Fault packAndCompare(const QString& file, const QString& archive, const Progress
                      const Progress& comparing = {});
 
 /// Unpacks the member of that name, whatever its case, as the file `to`, checked against the archive's own sum. A
-/// member in a folder of the archive has another name. What stood at `to` is replaced at the end or else untouched.
+/// member in a folder of the archive has another name. What stood at `to` is replaced at the end or else untouched;
+/// the new file is the user's alone.
 Fault unpack(const QString& archive, const QString& member, const QString& to, qint64 mostBytes,
              const Progress& progress = {});
 

@@ -129,7 +129,8 @@ Fault unpack(const QString& archive, const QString& member, const QString& to, q
     if (reader.fault() != Fault::None) return reader.fault();
     if (reader.size() > mostBytes) return Fault::TooLarge;
     try {
-        files::NewFile target(to);
+        constexpr int forOwner = 0600;
+        files::NewFile target(to, forOwner);
         Meter meter(progress);
         QByteArray block(blockSize, Qt::Uninitialized);
         while (const qint64 count = reader.read(block.data(), blockSize)) {

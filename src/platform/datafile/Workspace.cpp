@@ -139,6 +139,7 @@ void Workspace::compactDatabase(const QString& from, const QString& to) {
 
 void Workspace::replaceDatabase(const QString& path, const QString& made) {
     inspectDataFile(made);
+    if (const QFileInfo older(path); older.exists()) QFile::setPermissions(made, older.permissions());
     if (const auto connection = find(path))
         connection->whileClosed([&] { putInPlace(made, path); });
     else

@@ -27,8 +27,8 @@ public:
     static void createWhole(const QString& path, const std::function<void(const QString& made)>& make);
     /// Writes the file's content without its free space as the new file `to`, checked and on disk.
     void compactDatabase(const QString& from, const QString& to);
-    /// Puts the finished file `made`, from the same folder, in the place of the data file at `path`. The connection
-    /// is closed for it and opened again; open cursors take their keys anew.
+    /// Puts the finished file `made`, from the same folder, in the place of the data file at `path`, whose
+    /// permissions stay. The connection is closed for it and opened again; open cursors take their keys anew.
     void replaceDatabase(const QString& path, const QString& made);
 
 private:
