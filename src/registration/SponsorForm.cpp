@@ -1,9 +1,9 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 
 #include "platform/widgets/FormBuilder.h"
+#include "platform/widgets/Grid.h"
 #include "registration/SponsorPane.h"
 #include "shell/Bound.h"
 #include "shell/Choices.h"
@@ -74,20 +74,15 @@ void SponsorPane::addPledgeTab(FormBuilder& builder) {
         .custom(hint);
 }
 
-QTableWidget* SponsorPane::makeGrid() {
-    pledges_ = new QTableWidget(0, 3);
+Grid* SponsorPane::makeGrid() {
+    const auto money = Qt::AlignRight;
+    pledges_ = new Grid({{.caption = tr("Pledge Year")},
+                         {.caption = tr("Pledge Amt."), .alignment = money},
+                         {.caption = tr("Paid Amt."), .alignment = money}});
     pledges_->setObjectName(QStringLiteral("grdPreviousPledges"));
     pledges_->setAccessibleName(tr("Previous Pledges"));
-    pledges_->setHorizontalHeaderLabels({tr("Pledge Year"), tr("Pledge Amt."), tr("Paid Amt.")});
     pledges_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    pledges_->horizontalHeader()->setSectionsClickable(false);
-    pledges_->horizontalHeader()->setHighlightSections(false);
-    pledges_->verticalHeader()->hide();
-    pledges_->setSelectionBehavior(QAbstractItemView::SelectRows);
     pledges_->setSelectionMode(QAbstractItemView::ContiguousSelection);
-    pledges_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    pledges_->setTabKeyNavigation(false);
-    pledges_->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(pledges_, &QWidget::customContextMenuRequested, this, &SponsorPane::offerPledgeMenu);
+    connect(pledges_, &Grid::menuWanted, this, &SponsorPane::offerPledgeMenu);
     return pledges_;
 }

@@ -2,11 +2,11 @@
 
 #include <QMenu>
 #include <QPushButton>
-#include <QTableWidget>
 
 #include "platform/text/Money.h"
 #include "platform/text/Numbers.h"
 #include "platform/widgets/Form.h"
+#include "platform/widgets/Grid.h"
 #include "platform/widgets/WaitCursor.h"
 #include "shell/Program.h"
 
@@ -130,10 +130,9 @@ bool SponsorPane::archivePledge() {
     return true;
 }
 
+/// Without a pledge the grid shows one blank row.
 void SponsorPane::LoadPreviousPledgeList() {
-    pledgeCount_ = 0;
-    pledges_->clearContents();
-    pledges_->setRowCount(1);
+    std::vector<GridRow> pledges;
     try {
         const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
         datafile::Recordset rows = database.openRecordset(
@@ -141,29 +140,28 @@ void SponsorPane::LoadPreviousPledgeList() {
             "WHERE [SponsorId] = " +
             QString::number(sponsor_.IsSponsorNew() ? 0 : sponsor_.SponsorId()) +
             "  AND [DeletedFlag] = False  ORDER BY [PreviousPledgeYear] ASC");
-        for (; !rows.eof(); rows.moveNext(), ++pledgeCount_) {
-            pledges_->setRowCount(pledgeCount_ + 1);
-            int column = 0;
-            for (const char* name : {"PreviousPledgeYear", "PreviousPledgeAmount", "PreviousPaidAmount"}) {
-                const QString text = rows.text(QLatin1String(name));
-                const auto amount = Money::parse(text);
-                auto* cell = new QTableWidgetItem(column > 0 && amount ? amount->text() : text);
-                if (column > 0) cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-                pledges_->setItem(pledgeCount_, column++, cell);
-            }
-        }
+        const auto amount = [&rows](const char* column) {
+            const QString text = rows.text(QLatin1String(column));
+            const auto money = Money::parse(text);
+            return money ? money->text() : text;
+        };
+        for (; !rows.eof(); rows.moveNext())
+            pledges.push_back(
+                {{rows.text("PreviousPledgeYear"), amount("PreviousPledgeAmount"), amount("PreviousPaidAmount")}});
     } catch (const datafile::Error& error) {
         program().dialogs().error(tr("Previous Pledges"), u"LoadPreviousPledgeList - " + error.text());
     }
+    if (pledges.empty()) pledges.emplace_back();
+    pledges_->setRows(std::move(pledges));
 }
 
-void SponsorPane::offerPledgeMenu(const QPoint& place) {
-    if (pledgeCount_ == 0) return;
+void SponsorPane::offerPledgeMenu(const QPoint& global) {
+    if (pledges_->rows().front().cells.isEmpty()) return;
     auto* menu = new QMenu(pledges_);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setObjectName(QStringLiteral("mnuPledge"));
     menu->addAction(tr("&Delete"), this, &SponsorPane::deletePledges);
-    menu->popup(pledges_->viewport()->mapToGlobal(place));
+    menu->popup(global);
 }
 
 /// Those selected in the grid. A pledge is known by its year alone: of two of one year the first one goes.

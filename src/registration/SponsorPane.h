@@ -4,7 +4,7 @@
 #include "shell/RecordPane.h"
 
 class FormBuilder;
-class QTableWidget;
+class Grid;
 
 /// The four digits that a typed pledge year stands for; none is this year. What would not fit stays as typed.
 QString fullPledgeYear(const QString& typed, int thisYear);
@@ -23,7 +23,7 @@ private:
     Form* buildForm();
     void addInformationTab(FormBuilder& builder);
     void addPledgeTab(FormBuilder& builder);
-    QTableWidget* makeGrid();
+    Grid* makeGrid();
 
     bool find(const QString& entry) override;
     QString name() const override { return sponsor_.SponsorName; }
@@ -38,10 +38,9 @@ private:
     void completeYear();
     bool archivePledge();
     void LoadPreviousPledgeList();
-    void offerPledgeMenu(const QPoint& place);
+    void offerPledgeMenu(const QPoint& global);
     void deletePledges();
 
     clsSponsors sponsor_;
-    QTableWidget* pledges_ = nullptr;
-    int pledgeCount_ = 0;  ///< rows of the grid that hold a pledge
+    Grid* pledges_ = nullptr;
 };

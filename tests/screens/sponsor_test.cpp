@@ -1,12 +1,14 @@
 #include "registration/SponsorPane.h"
+#include "platform/widgets/Grid.h"
 #include "platform/widgets/SearchCombo.h"
 #include "support/Printing.h"
 #include "support/RunningProgram.h"
 
+#include <QContextMenuEvent>
+#include <QItemSelection>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTabWidget>
-#include <QTableWidget>
 #include <gtest/gtest.h>
 
 namespace {
@@ -43,32 +45,29 @@ protected:
     QString column(const char* name) {
         return running.league.value("SELECT * FROM tblSponsor WHERE [SponsorId] = 1", name);
     }
+    Grid* table() { return control<Grid>(screen, "grdPreviousPledges"); }
     QStringList grid() {
-        auto* table = control<QTableWidget>(screen, "grdPreviousPledges");
         QStringList rows;
-        for (int row = 0; row < table->rowCount(); ++row) {
-            QStringList cells;
-            for (int cell = 0; cell < 3; ++cell)
-                cells << (table->item(row, cell) ? table->item(row, cell)->text() : "");
-            rows << cells.join(u' ');
-        }
+        for (int row = 0; row < int(table()->rows().size()); ++row)
+            rows << QStringList{table()->text(row, 0), table()->text(row, 1), table()->text(row, 2)}.join(u' ');
         return rows;
     }
     int pledges(bool deleted) {
         return running.league.count(
             QString("SELECT * FROM tblSponsorPreviousPledge WHERE [DeletedFlag] = %1").arg(deleted ? "True" : "False"));
     }
-    /// The pop-up menu of the grid; null when none opens.
-    QMenu* openMenu() {
-        auto* table = control<QTableWidget>(screen, "grdPreviousPledges");
-        Q_EMIT table->customContextMenuRequested({5, 5});
-        return table->findChild<QMenu*>("mnuPledge");
+    /// The pop-up menu that a right click on the row opens; null when none opens.
+    QMenu* openMenu(int row = 0) {
+        const QPoint place = table()->visualRect(table()->model()->index(row, 1)).center();
+        QContextMenuEvent click(QContextMenuEvent::Mouse, place, table()->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(table()->viewport(), &click);
+        return table()->findChild<QMenu*>("mnuPledge");
     }
     void deleteRows(int from, int to, BoxAnswer answer) {
-        auto* table = control<QTableWidget>(screen, "grdPreviousPledges");
-        table->clearSelection();
-        table->setRangeSelected({from, 0, to, 2}, true);
-        QMenu* menu = openMenu();
+        const QAbstractItemModel* model = table()->model();
+        table()->selectionModel()->select({model->index(from, 0), model->index(to, 2)},
+                                          QItemSelectionModel::ClearAndSelect);
+        QMenu* menu = openMenu(to);
         ASSERT_TRUE(menu);
         running.league.dialogs.expectQuestion("Delete Pledge Records", answer,
                                               QString("You have selected %1 row(s) to delete.\nDo you want to delete "

@@ -343,9 +343,9 @@ void Grid::contextMenuEvent(QContextMenuEvent* event) {
     askForMenu(byKey ? currentIndex().row() : rowAt(event->pos().y()), event->globalPos());
 }
 
-/// The row under the pointer becomes the current one.
+/// The row under the pointer becomes the current one, unless it is one of several that are selected.
 void Grid::askForMenu(int row, const QPoint& global) {
-    if (row >= 0 && row != currentIndex().row()) {
+    if (row >= 0 && row != currentIndex().row() && !selectionModel()->isRowSelected(row)) {
         const int column = currentIndex().isValid() || editable_.empty() ? currentIndex().column() : editable_.front();
         setCurrentCell(row, std::max(0, column));
     }
