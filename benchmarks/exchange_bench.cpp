@@ -1,4 +1,4 @@
-#include <QApplication>
+#include <QCoreApplication>
 #include <cstdio>
 
 #include "Comparison.h"
@@ -63,7 +63,7 @@ void importByHand(const QString& path, const QByteArray& bytes) {
 }  // namespace
 
 int main(int count, char** arguments) {
-    QApplication application(count, arguments);
+    QCoreApplication application(count, arguments);
     const QByteArray bytes = scheduleFile();
     SampleLeague ours(players);
     SampleLeague raw(players);
