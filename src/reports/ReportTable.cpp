@@ -28,6 +28,7 @@ std::vector<ReportCategory> Reports::table() {
 }
 
 ReportCategory Reports::playerReports() {
+    constexpr bool comparesAges = true;
     const QString player = mustSelect(tr("You must select a player from the list before"));
     const QString both = mustSelectBefore(tr("You must select a Division and Team option"));
     const QString school = mustSelect(tr("You must select a School Name from the list before"));
@@ -40,7 +41,7 @@ ReportCategory Reports::playerReports() {
              {tr("Player Report by School"), rptPlayerReport5, ListKind::Schools, Scope::Division, demand({1}, school)},
              {tr("Player Report by Age"), rptPlayerReport6, ListKind::None, Scope::Division, demand({2}, division)},
              {tr("Player Age Exception Report"), rptPlayerReport9, ListKind::None, Scope::Division,
-              demand({2}, division)}}};
+              demand({2}, division), false, comparesAges}}};
 }
 
 ReportCategory Reports::volunteerReports() {

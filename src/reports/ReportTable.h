@@ -23,6 +23,7 @@ struct ReportOption {
     Scope scope = Scope::League;
     std::vector<Demand> demands{};  ///< the first that is not met is told
     bool mayNarrow = false;         ///< "Select By Division" is offered: by its check, list and scope are used
+    bool comparesAges = false;      ///< asks for the ages of the chosen division where they are no numbers
 };
 
 /// One of the kinds of report that the selection screen offers, with its choices in the order of their buttons.

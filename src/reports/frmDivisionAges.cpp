@@ -24,7 +24,7 @@ FilteredEdit* ageBox(const char* name, const QString& age) {
 
 }  // namespace
 
-frmDivisionAges::frmDivisionAges(const QString& division, const Ages& held, const QString& message)
+frmDivisionAges::frmDivisionAges(const QString& division, const AgeLimits& held, const QString& message)
     : minimum_(ageBox("txtMinimumAge", held.minimum)), maximum_(ageBox("txtMaximumAge", held.maximum)) {
     setObjectName(QStringLiteral("frmDivisionAges"));
     setWindowTitle(tr("Division Ages"));
@@ -55,4 +55,4 @@ frmDivisionAges::frmDivisionAges(const QString& division, const Ages& held, cons
     resize(360, sizeHint().height());
 }
 
-frmDivisionAges::Ages frmDivisionAges::ages() const { return {minimum_->text(), maximum_->text()}; }
+AgeLimits frmDivisionAges::ages() const { return {minimum_->text(), maximum_->text()}; }

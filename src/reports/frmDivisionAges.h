@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+#include "reports/ReportInput.h"
+
 class FilteredEdit;
 
 /// Asks for the ages of a division's youngest and oldest players.
@@ -9,16 +11,11 @@ class frmDivisionAges final : public QDialog {
     Q_OBJECT
 
 public:
-    struct Ages {
-        QString minimum;
-        QString maximum;
-    };
-
     /// Shows the ages as they are held, one that is no number as none, below the message.
-    frmDivisionAges(const QString& division, const Ages& held, const QString& message);
+    frmDivisionAges(const QString& division, const AgeLimits& held, const QString& message);
 
     /// As typed.
-    Ages ages() const;
+    AgeLimits ages() const;
 
 private:
     FilteredEdit* minimum_;

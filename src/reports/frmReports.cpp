@@ -8,10 +8,13 @@
 #include <QRadioButton>
 #include <QScrollArea>
 
+#include "league/clsDivision.h"
 #include "league/clsTeam.h"
+#include "platform/text/Numbers.h"
 #include "platform/widgets/ChoiceBox.h"
 #include "platform/widgets/FormLayout.h"
 #include "reports/Reports.h"
+#include "reports/frmDivisionAges.h"
 #include "shell/Program.h"
 
 namespace {
@@ -184,6 +187,22 @@ bool frmReports::meetsDemands(const ReportOption& option) {
     return true;
 }
 
+bool frmReports::askAges(ReportInput& input) {
+    if (!input.divisionId) return true;
+    clsDivision division(program_.store);
+    bool found = false;
+    division.FindDivisionRecordById(*input.divisionId, false, true, found);
+    const AgeLimits held{division.DivMinAge, division.DivMaxAge};
+    const auto compares = [](const QString& age) { return age.isEmpty() || isNumeric(age); };
+    if (!found || (compares(held.minimum) && compares(held.maximum))) return true;
+    frmDivisionAges form(division.DivName, held,
+                         tr("The ages of this division are no numbers.  Please enter those to compare with, for this "
+                            "report alone; an empty one limits nothing."));
+    if (program_.dialogs().showModal(form) != QDialog::Accepted) return false;
+    input.ages = form.ages();
+    return true;
+}
+
 /// Sends the chosen report to the chosen destination. What fails is told; the screen stays as it was.
 void frmReports::run() {
     ResetStatusBar();
@@ -191,6 +210,7 @@ void frmReports::run() {
     if (!meetsDemands(option) || !option.report) return;
     try {
         ReportInput with = input();
+        if (option.comparesAges && !askAges(with)) return;
         if (categoryButtons_->checkedId() == mailingLabels) {
             const std::optional<LabelOptions> labels = labels_.begin(optionButtons_->checkedId());
             if (!labels) return;

@@ -46,6 +46,8 @@ private:
     /// Says what is still to be chosen and goes there. True when nothing is.
     bool meetsDemands(const ReportOption& option);
     ReportInput input();
+    /// Asks for the ages of the chosen division where the report cannot compare them. False where the user stays.
+    bool askAges(ReportInput& input);
     std::optional<int> chosenDivision();
     void run();
 

@@ -109,6 +109,29 @@ TEST_F(ReportOutputTest, EveryFileHoldsTheReport) {
         EXPECT_TRUE(text.contains(part)) << part << " in\n" << text.toStdString();
 }
 
+TEST_F(ReportOutputTest, AsksForAgesThatAreNoNumbers) {
+    running.league.database().execute("DELETE FROM tblDivision");
+    running.league.database().execute(
+        "INSERT INTO tblDivision (DivisionId, DivName, DivMinAge, DivMaxAge) VALUES (1, 'Minors', 'six', '10')");
+    for (const char* player : {"'Eight', 'A', 1, 8", "'Nine', 'A', 1, 9", "'Eleven', 'A', 1, 11"})
+        addPlayer("PlayerLastName, PlayerFirstName, PlayerDivisionId, PlayerAge", player);
+    choose(0, 6);
+    chooseDestination(3);
+    pick(2, "Minors");
+    dialogs.expectForm("frmDivisionAges", [](QDialog& form) { form.reject(); });
+    press(screen, "cmdPrint");
+    EXPECT_FALSE(QFile::exists(path()));
+    dialogs.expectForm("frmDivisionAges", [](QDialog& form) {
+        type(&form, "txtMinimumAge", "9");
+        press(&form, "cmdOK");
+    });
+    dialogs.expectSaveFile("Save Report", path());
+    press(screen, "cmdPrint");
+    const QString text = textOfPdf(path());
+    for (const auto& [player, listed] : {std::pair("Eight, A", true), {"Nine, A", false}, {"Eleven, A", true}})
+        EXPECT_EQ(text.contains(player), listed) << player;
+}
+
 TEST_F(ReportOutputTest, PrintsWhereThePrinterOfTheDialogSaysSo) {
     addPena();
     chooseDestination(0);
