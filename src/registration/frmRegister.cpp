@@ -1,9 +1,7 @@
 #include "registration/frmRegister.h"
 
 #include <QAction>
-#include <QLabel>
 #include <QMenu>
-#include <QStatusBar>
 
 #include "platform/widgets/WaitCursor.h"
 #include "registration/PlayerPane.h"
@@ -13,8 +11,7 @@
 #include "shell/Program.h"
 
 frmRegister::frmRegister(Program& program) : RecordScreen(program, QStringLiteral("frmRegister"), {1260, 700}) {
-    setWindowTitle(tr("Kestrelmoor - Player/Parent/Volunteer/Sponsor Registrations"));
-    showDataFile();
+    showPurpose(tr("Kestrelmoor - Player/Parent/Volunteer/Sponsor Registrations"));
     auto* players = new PlayerPane(program);
     addPane(players);
     addOrder(players, QStringLiteral("cmdAddSibling"), tr("Add S&ibling"), QStringLiteral("mnuDataNewSiblingRecord"),
@@ -45,18 +42,6 @@ frmRegister::frmRegister(Program& program) : RecordScreen(program, QStringLitera
     toolsMenu()->addSeparator();
     addEntry(toolsMenu(), QStringLiteral("mnuToolsRecalculatePlayerAges"), tr("&Recalculate Player Ages"),
              [this, players] { recalculatePlayerAges(players); });
-}
-
-/// Other screens name the file in the caption, which says here what the screen is for.
-void frmRegister::showDataFile() {
-    auto* file = new QLabel(program_.store.dataFilePath);
-    file->setObjectName(QStringLiteral("lblDataFile"));
-    file->setTextFormat(Qt::PlainText);
-    file->setToolTip(tr("Data file: %1").arg(program_.store.dataFilePath));
-    file->setEnabled(false);
-    file->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addPermanentWidget(file, 1);
 }
 
 /// The data file as a whole is cared for on the start-up screen, where nobody works on a record.

@@ -20,7 +20,6 @@ private:
         QString cancelled;
         RecordPane* pane;  ///< shows what is left; null: none does
     };
-    void showDataFile();
     void addFileEntries();
     void addPurge(const Purge& purge);
     void purge(const Purge& purge);

@@ -33,6 +33,7 @@ frmReports::frmReports(Program& program)
       database_(program.store.workspace.openDatabase(program.store.dataFilePath)),
       output_(program),
       labels_(program) {
+    showPurpose(tr("Kestrelmoor - Reports"));
     auto* content = new QWidget;
     auto* columns = new ColumnRow(content);
     columns->addColumn(makeCategories(), 2);

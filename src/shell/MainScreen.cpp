@@ -41,6 +41,18 @@ void MainScreen::UpdateStatusBar(const QString& text) { status_->setText(text); 
 
 void MainScreen::ResetStatusBar() { status_->clear(); }
 
+void MainScreen::showPurpose(const QString& caption) {
+    setWindowTitle(caption);
+    auto* file = new QLabel(program_.store.dataFilePath);
+    file->setObjectName("lblDataFile");
+    file->setTextFormat(Qt::PlainText);
+    file->setToolTip(tr("Data file: %1").arg(program_.store.dataFilePath));
+    file->setEnabled(false);
+    file->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addPermanentWidget(file, 1);
+}
+
 void MainScreen::leaving() { WindowPlacement(program_.settings, objectName()).save(*this); }
 
 QMenu* MainScreen::dataMenu() {

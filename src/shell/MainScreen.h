@@ -21,6 +21,9 @@ public:
     void ResetStatusBar();
 
 protected:
+    /// The caption says what the screen is for instead of which file is open; the status line names the file then.
+    void showPurpose(const QString& caption);
+
     /// Edit, Undo: takes back the changes to the current record.
     virtual void undo() {}
 
