@@ -23,9 +23,7 @@ AssignmentPane::AssignmentPane(Program& program)
     enableLists();
 }
 
-datafile::Database AssignmentPane::database() const {
-    return program().store.workspace.openDatabase(program().store.dataFilePath);
-}
+datafile::Database AssignmentPane::database() const { return program().store.database(); }
 
 void AssignmentPane::enableLists() {
     const struct {

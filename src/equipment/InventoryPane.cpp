@@ -88,8 +88,7 @@ void InventoryPane::addInsuranceFrame(FormBuilder& builder) {
 
 InventoryPane::Choices InventoryPane::read(const QString& query, const QString& idColumn) const {
     Choices choices;
-    datafile::Recordset rows =
-        program().store.workspace.openDatabase(program().store.dataFilePath).openRecordset(query);
+    datafile::Recordset rows = program().store.database().openRecordset(query);
     for (; !rows.eof(); rows.moveNext()) {
         const QString name = rows.text("Name");
         const int id = static_cast<int>(rows.number(idColumn));

@@ -99,7 +99,7 @@ void DivisionPane::addRegistrationFrame(FormBuilder& builder) {
 }
 
 QStringList DivisionPane::list(const QString& query, const QString& column) const {
-    const auto entries = program().store.workspace.openDatabase(program().store.dataFilePath).readList(query, column);
+    const auto entries = program().store.database().readList(query, column);
     return QStringList(entries.begin(), entries.end());
 }
 
@@ -151,7 +151,7 @@ std::vector<Finding> DivisionPane::check() const {
 }
 
 bool DivisionPane::write() {
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    const datafile::Database database = program().store.database();
     datafile::Transaction transaction(database);
     if (!division_.IsDivNew()) RenameScheduleDivision(database, loadedName_, division_.DivName);
     if (!RecordPane::write()) return false;

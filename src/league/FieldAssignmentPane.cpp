@@ -53,7 +53,7 @@ Form* FieldAssignmentPane::buildForm() {
 }
 
 void FieldAssignmentPane::LoadTeamFieldLists() {
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    const datafile::Database database = program().store.database();
     for (const auto& [side, in] : {std::pair(ListMover::Left, "NOT IN"), std::pair(ListMover::Right, "IN")}) {
         std::vector<QString> fields;
         if (division_.DivId > 0)

@@ -94,7 +94,7 @@ void PlayerAssignments::LoadUnassignedPlayers() {
     std::vector<QString> entries;
     if (const int division = team_.FindDivisionId(division_->text()); division > 0)
         entries =
-            scoredPlayers(program_.store.workspace.openDatabase(program_.store.dataFilePath),
+            scoredPlayers(program_.store.database(),
                           QStringLiteral("(([PlayerDivisionId] = %1 AND [PlayerTeamId] = 0) OR [PlayerDivisionId] = 0)")
                               .arg(division));
     players_->setEntries(ListMover::Left, std::move(entries));
@@ -103,10 +103,10 @@ void PlayerAssignments::LoadUnassignedPlayers() {
 void PlayerAssignments::LoadTeamPlayers() {
     std::vector<QString> entries;
     if (findTeam())
-        entries = scoredPlayers(program_.store.workspace.openDatabase(program_.store.dataFilePath),
-                                QStringLiteral("[PlayerDivisionId] = %1 AND [PlayerTeamId] = %2")
-                                    .arg(team_.TeamDivisionId())
-                                    .arg(team_.TeamId()));
+        entries =
+            scoredPlayers(program_.store.database(), QStringLiteral("[PlayerDivisionId] = %1 AND [PlayerTeamId] = %2")
+                                                         .arg(team_.TeamDivisionId())
+                                                         .arg(team_.TeamId()));
     players_->setEntries(ListMover::Right, std::move(entries));
 }
 

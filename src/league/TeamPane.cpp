@@ -98,9 +98,7 @@ void TeamPane::addInformationTab(FormBuilder& builder) {
         .comments("txtTeamComments", {}, team.TeamComments, FilterTextWide);
 }
 
-datafile::Database TeamPane::database() const {
-    return program().store.workspace.openDatabase(program().store.dataFilePath);
-}
+datafile::Database TeamPane::database() const { return program().store.database(); }
 
 void TeamPane::LoadTeamDataControls() {
     std::vector<QString> names =

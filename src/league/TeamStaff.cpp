@@ -123,12 +123,10 @@ void TeamStaff::showEvent(QShowEvent* event) {
 /// All five lists are filled from one reading.
 void TeamStaff::readVolunteers() {
     if (!isVisible()) return;
-    std::vector<QString> volunteers =
-        program_.store.workspace.openDatabase(program_.store.dataFilePath)
-            .readList(
-                "SELECT *, ([VolLastName] & \", \" & [VolFirstName] & \" - \" & [VolHomePhone]) as Name FROM "
-                "tblVolunteer WHERE [DeletedFlag] = False ORDER BY [VolLastName], [VolFirstName]",
-                "Name");
+    std::vector<QString> volunteers = program_.store.database().readList(
+        "SELECT *, ([VolLastName] & \", \" & [VolFirstName] & \" - \" & [VolHomePhone]) as Name FROM "
+        "tblVolunteer WHERE [DeletedFlag] = False ORDER BY [VolLastName], [VolFirstName]",
+        "Name");
     placeAccented(volunteers);
     volunteers.insert(volunteers.begin(), QString());
     for (auto& seat : seats_) {
@@ -205,7 +203,7 @@ bool TeamStaff::SaveCoachingStaff() {
         program_.dialogs().warning(tr("Invalid Coach Selections..."), warning);
         return false;
     }
-    datafile::Transaction transaction(program_.store.workspace.openDatabase(program_.store.dataFilePath));
+    datafile::Transaction transaction(program_.store.database());
     for (auto& seat : seats_) {
         if (!seat->changed) continue;
         bool found = false;

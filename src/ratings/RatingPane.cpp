@@ -13,9 +13,7 @@ RatingPane::RatingPane(Program& program, PaneText text)
     });
 }
 
-datafile::Database RatingPane::database() const {
-    return program().store.workspace.openDatabase(program().store.dataFilePath);
-}
+datafile::Database RatingPane::database() const { return program().store.database(); }
 
 /// The live words in the order of their values.
 QStringList RatingPane::words() const {

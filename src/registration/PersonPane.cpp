@@ -23,9 +23,7 @@ void PersonPane::shown() {
     if (!record().isNew()) loaded_ = entry();
 }
 
-datafile::Database PersonPane::database() const {
-    return program().store.workspace.openDatabase(program().store.dataFilePath);
-}
+datafile::Database PersonPane::database() const { return program().store.database(); }
 
 PersonPane::Settled PersonPane::settleIdentity() {
     const bool sameAsLoaded = entry().compare(loaded_, Qt::CaseInsensitive) == 0;

@@ -151,7 +151,7 @@ void PlayerPane::followLink(const Parent& parent) {
 
 /// The volunteer, and every other child linked in this role, take name and phone over.
 void PlayerPane::updateVolunteer(const Parent& parent) {
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    const datafile::Database database = program().store.database();
     datafile::Transaction transaction(database);
     takeNameAndPhone(parent);
     volunteer_.VolDeletedFlag = false;

@@ -134,7 +134,7 @@ bool SponsorPane::archivePledge() {
 void SponsorPane::LoadPreviousPledgeList() {
     std::vector<GridRow> pledges;
     try {
-        const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+        const datafile::Database database = program().store.database();
         datafile::Recordset rows = database.openRecordset(
             "SELECT [PreviousPledgeYear], [PreviousPledgeAmount], [PreviousPaidAmount] FROM tblSponsorPreviousPledge "
             "WHERE [SponsorId] = " +
@@ -174,7 +174,7 @@ void SponsorPane::deletePledges() {
         tr("You have selected %1 row(s) to delete.\nDo you want to delete the Previous Pledge record(s)?")
             .arg(selected.size()));
     if (!go) return;
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    const datafile::Database database = program().store.database();
     datafile::Transaction transaction(database);
     for (const QModelIndex& row : selected)
         sponsor_.DeletePreviousPledgeRecord(sponsor_.SponsorId, row.data().toString());

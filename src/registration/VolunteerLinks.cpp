@@ -114,7 +114,7 @@ QWidget* VolunteerLinks::playersGroup() {
 }
 
 std::vector<QString> VolunteerLinks::names(const QString& query, const char* column) const {
-    return program_.store.workspace.openDatabase(program_.store.dataFilePath).readList(query, QLatin1String(column));
+    return program_.store.database().readList(query, QLatin1String(column));
 }
 
 void VolunteerLinks::showEvent(QShowEvent* event) {
@@ -165,7 +165,7 @@ void VolunteerLinks::deleteAssociation() {
     bool linked = false;
     volunteer_.FindRegVolRecord(playerId_, volunteer_.VolId, linked);
     if (!linked) return;
-    datafile::Transaction transaction(program_.store.workspace.openDatabase(program_.store.dataFilePath));
+    datafile::Transaction transaction(program_.store.database());
     volunteer_.DeleteRegVolRecord();
     volunteer_.DeleteAllVolToPositionRecords(volunteer_.VolId, playerId_);
     transaction.commit();

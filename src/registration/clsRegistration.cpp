@@ -175,7 +175,7 @@ void clsRegistration::UpdateOldVolInfo(const QString& parent, const ParentName& 
 }
 
 void clsRegistration::RecalculatePlayerAges(StoreContext& context) {
-    recalculateLeagueAges(context, context.workspace.openDatabase(context.dataFilePath));
+    recalculateLeagueAges(context, context.database());
 }
 
 void clsRegistration::RemovePlayerAssignments(int divisionId, int teamId) {

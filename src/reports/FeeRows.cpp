@@ -33,7 +33,7 @@ void computeBalances(const datafile::Database& database) {
 }  // namespace
 
 void fillFeeWorkTable(StoreContext& store, bool byTeam) {
-    const datafile::Database database = store.workspace.openDatabase(store.dataFilePath);
+    const datafile::Database database = store.database();
     datafile::Transaction whole(database);
     DeleteRecords(store, TempFeeReport);
     const QString parents = byTeam ? "PlayerDivisionId, DivName, PlayerTeamId, TeamName" : "0, \"\", 0, \"\"";

@@ -11,7 +11,7 @@ void fillFamilyLabels(StoreContext& store, std::optional<int> divisionId) {
         {"Address2", "PlayerAddress2"},      {"City", "PlayerCity"},
         {"State", "PlayerStateId"},          {"PostalCode", "PlayerPostalCode"},
         {"CountryCode", "PlayerCountryCode"}};
-    const datafile::Database database = store.workspace.openDatabase(store.dataFilePath);
+    const datafile::Database database = store.database();
     datafile::Transaction whole(database);
     DeleteRecords(store, TempFamilyLabels);
     QString query = "SELECT * FROM tblRegistration";

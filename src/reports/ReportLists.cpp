@@ -93,7 +93,7 @@ std::vector<QString> ReportLists::entries(StoreContext& store, ListKind kind, st
     QString query = queryOf(kind);
     if (kind == ListKind::Teams) query = divisionId ? query.arg(*divisionId) : QString();
     if (!query.isEmpty()) {
-        const datafile::Database database = store.workspace.openDatabase(store.dataFilePath);
+        const datafile::Database database = store.database();
         if (kind == ListKind::RatedPlayers || kind == ListKind::RatedVolunteers) fillSearchList(store, database);
         entries = database.readList(query, "Entry");
         placeAccented(entries);

@@ -38,7 +38,7 @@ ReportOutput::~ReportOutput() = default;
 QString ReportOutput::run(const LeagueReport& report, int destination, QWidget* screen) {
     StoreContext& store = program_.store;
     if (report.prepare) report.prepare(store);
-    const report::Report runnable{report.definition, storeRows(store.workspace.openDatabase(store.dataFilePath))};
+    const report::Report runnable{report.definition, storeRows(store.database())};
     if (const auto& noData = report.definition.noData;
         noData && !report::ReportFiller(runnable.definition, runnable.rows).hasRows()) {
         program_.dialogs().information(noData->title, noData->text);

@@ -30,7 +30,7 @@ frmReports::frmReports(Program& program)
       categoryButtons_(new QButtonGroup(this)),
       optionButtons_(new QButtonGroup(this)),
       destinationButtons_(new QButtonGroup(this)),
-      database_(program.store.workspace.openDatabase(program.store.dataFilePath)),
+      database_(program.store.database()),
       output_(program),
       labels_(program) {
     showPurpose(tr("Kestrelmoor - Reports"));

@@ -37,9 +37,7 @@ void GamesPane::place(QWidget* content) {
     column->addWidget(content, 1);
 }
 
-datafile::Database GamesPane::database() const {
-    return program().store.workspace.openDatabase(program().store.dataFilePath);
-}
+datafile::Database GamesPane::database() const { return program().store.database(); }
 
 datafile::Recordset GamesPane::teams() const {
     return database().openRecordset("SELECT [TeamId], ([TeamName]) as Name FROM tblTeam WHERE [DivisionId] = " +

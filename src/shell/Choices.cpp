@@ -3,7 +3,7 @@
 #include "shell/Program.h"
 
 QStringList listOf(const Program& program, const QString& query, const QString& column) {
-    const auto entries = program.store.workspace.openDatabase(program.store.dataFilePath).readList(query, column);
+    const auto entries = program.store.database().readList(query, column);
     return QStringList(entries.begin(), entries.end());
 }
 

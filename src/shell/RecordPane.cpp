@@ -54,7 +54,7 @@ void RecordPane::showFirst() {
 bool RecordPane::hasRecord() const { return search_->currentIndex() >= 0; }
 
 std::vector<QString> RecordPane::readEntries() const {
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    const datafile::Database database = program().store.database();
     return SearchRow::entries(database, text().listQuery);
 }
 
@@ -64,9 +64,7 @@ void RecordPane::readList() {
     noteChanges();
 }
 
-void RecordPane::noteChanges() {
-    seenChanges_ = program().store.workspace.openDatabase(program().store.dataFilePath).changes();
-}
+void RecordPane::noteChanges() { seenChanges_ = program().store.database().changes(); }
 
 void RecordPane::beginEditing() {
     if (!form_->isLoading()) setEditing(true);
@@ -274,7 +272,7 @@ bool RecordPane::offerToSaveBeforeClosing() {
 }
 
 void RecordPane::catchUp() {
-    const datafile::Database database = program().store.workspace.openDatabase(program().store.dataFilePath);
+    const datafile::Database database = program().store.database();
     if (isEditing() || database.changes() == seenChanges_) return;
     const QString current = shownEntry_;
     readChoices();

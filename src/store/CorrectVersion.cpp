@@ -116,7 +116,7 @@ bool MakeSafetyCopy(StoreContext& context) {
 
 bool CorrectVersion(StoreContext& context) {
     try {
-        const Database database = context.workspace.openDatabase(context.dataFilePath);
+        const Database database = context.database();
         emptyWorkTables(context, database);
         MakeSafetyCopy(context);
         removeHalfMadeFiles(context);

@@ -108,8 +108,7 @@ protected:
         const char* onMiss;
     };
 
-    explicit RecordClass(StoreContext& context)
-        : context_(context), database_(context.workspace.openDatabase(context.dataFilePath)) {}
+    explicit RecordClass(StoreContext& context) : context_(context), database_(context.database()) {}
     void open(RecordRules rules);
 
     StoreContext& context() const { return context_; }

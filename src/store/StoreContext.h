@@ -13,4 +13,7 @@ struct StoreContext {
     Dialogs& dialogs;
     QString dataFilePath{};
     Globals globals{};
+
+    /// The data file of the user.
+    datafile::Database database() const { return workspace.openDatabase(dataFilePath); }
 };

@@ -75,7 +75,7 @@ void LeagueFolder::makeLeague(const std::function<void(StoreContext&)>& fill) co
     makeBaseFile(dataFile());
     if (!fill) return;
     with([&](StoreContext& context) {
-        datafile::Transaction transaction(context.workspace.openDatabase(context.dataFilePath));
+        datafile::Transaction transaction(context.database());
         fill(context);
         transaction.commit();
     });

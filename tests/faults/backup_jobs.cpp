@@ -17,9 +17,7 @@ QString besideOf(const StoreContext& context, const QString& name) {
     return QFileInfo(context.dataFilePath).dir().filePath(name);
 }
 
-void emptyStates(StoreContext& context) {
-    context.workspace.openDatabase(context.dataFilePath).execute("DELETE FROM tblState WHERE True");
-}
+void emptyStates(StoreContext& context) { context.database().execute("DELETE FROM tblState WHERE True"); }
 
 /// The archive and the safety copy are older than the data file.
 void prepare(const LeagueFolder& folder) {
@@ -32,9 +30,7 @@ void prepare(const LeagueFolder& folder) {
 void prepareElsewhere(const LeagueFolder& folder) {
     prepare(folder);
     QFile::copy(folder.dataFile(), folder.filePath(elsewhere));
-    folder.with([](StoreContext& context) {
-        context.workspace.openDatabase(context.dataFilePath).execute("DELETE FROM tblHowFeePaid WHERE True");
-    });
+    folder.with([](StoreContext& context) { context.database().execute("DELETE FROM tblHowFeePaid WHERE True"); });
 }
 
 std::function<QString()> backUpStep(StoreContext& context) {

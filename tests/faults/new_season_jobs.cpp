@@ -12,7 +12,7 @@ const SeasonDisplay nobody{[](const QString&) {}, [](const QString&) {}, [](int)
 void prepare(const LeagueFolder& folder) {
     prepareEveryTable(folder);
     folder.with([](StoreContext& context) {
-        const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
+        const datafile::Database database = context.database();
         for (const char* statement :
              {"DELETE FROM tblOptions WHERE True",
               "INSERT INTO tblOptions ([OptionId], [CurrentSeasonYear]) VALUES (1, \"2025\")",

@@ -50,7 +50,7 @@ void add(clsRegistration& player) {
 
 /// One transaction that goes on past a row that fails, and is given up at its end then.
 void changeMany(StoreContext& context) {
-    const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
+    const datafile::Database database = context.database();
     datafile::Transaction transaction(database);
     datafile::Recordset players = database.openRecordset("tblRegistration");
     std::optional<datafile::Error> failure;

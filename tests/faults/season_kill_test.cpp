@@ -46,7 +46,7 @@ constexpr std::pair<int, const char*> untilDone[] = {
 std::vector<qint64> countsOf(const LeagueFolder& folder) {
     std::vector<qint64> counts;
     folder.with([&](StoreContext& context) {
-        const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
+        const datafile::Database database = context.database();
         for (const auto& [step, rows] : untilDone)
             counts.push_back(database.openRecordset(QString("SELECT Count(*) AS N FROM ") + rows).number("N"));
     });

@@ -79,7 +79,7 @@ const Writer writers[] = {
 /// An older archive and safety copy beside a data file with many rows in it.
 void prepare(const LeagueFolder& folder) {
     folder.makeLeague([](StoreContext& context) {
-        const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
+        const datafile::Database database = context.database();
         for (int i = 0; i < 300; ++i)
             database.execute(QString("INSERT INTO tblRegistration ([PlayerLastName], [PlayerFirstName], "
                                      "[PlayerBirthDate], [PlayerActive], [PlayerComments]) VALUES (\"L%1\", \"F%1\", "
@@ -89,9 +89,7 @@ void prepare(const LeagueFolder& folder) {
     });
     ASSERT_TRUE(QFile::copy(folder.dataFile(), folder.safetyCopy()));
     ASSERT_EQ(archive::pack(folder.dataFile(), folder.filePath(archiveName)), archive::Fault::None);
-    folder.with([](StoreContext& context) {
-        context.workspace.openDatabase(context.dataFilePath).execute("DELETE FROM tblState WHERE True");
-    });
+    folder.with([](StoreContext& context) { context.database().execute("DELETE FROM tblState WHERE True"); });
 }
 
 /// Leaves so many bytes free.

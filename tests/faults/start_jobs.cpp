@@ -20,7 +20,7 @@ constexpr int sampledVersion = 34;  ///< the chain from here: five steps, the fi
 void expectNextStartToPass(const LeagueFolder& folder) {
     folder.with([](StoreContext& context) {
         EXPECT_TRUE(CorrectVersion(context)) << "the next start failed";
-        const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
+        const datafile::Database database = context.database();
         EXPECT_EQ(database.openRecordset("tblVersion").text("DBVersion"), GetCurrentDBVersion());
         EXPECT_EQ(database.tableNames().size(), schema::tables().size());
     });
@@ -39,8 +39,7 @@ FaultJob stepJob(const UpgradeStep& step) {
             .prepare = [version](const LeagueFolder& folder) { olderfile::make(folder.dataFile(), version); },
             .begin = FaultJob::step([name](StoreContext& context) {
                 for (const UpgradeStep& each : upgradeSteps())
-                    if (name == QLatin1String(each.name))
-                        runUpgradeStep(each, context, context.workspace.openDatabase(context.dataFilePath));
+                    if (name == QLatin1String(each.name)) runUpgradeStep(each, context, context.database());
             }),
             .next = startAfterStep};
 }
@@ -48,7 +47,7 @@ FaultJob stepJob(const UpgradeStep& step) {
 void prepareEnd(const LeagueFolder& folder) {
     olderfile::make(folder.dataFile(), sampledVersion);
     folder.with([](StoreContext& context) {
-        const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
+        const datafile::Database database = context.database();
         for (const UpgradeStep& step : upgradeSteps())
             if (step.lastVersion >= sampledVersion) runUpgradeStep(step, context, database);
     });
@@ -80,9 +79,7 @@ void startAfterChain(const Aftermath& aftermath) {
 void prepareCopy(const LeagueFolder& folder) {
     folder.makeLeague();
     QFile::copy(folder.dataFile(), folder.safetyCopy());
-    folder.with([](StoreContext& context) {
-        context.workspace.openDatabase(context.dataFilePath).execute("DELETE FROM tblState WHERE True");
-    });
+    folder.with([](StoreContext& context) { context.database().execute("DELETE FROM tblState WHERE True"); });
 }
 
 }  // namespace
@@ -93,9 +90,7 @@ QList<FaultJob> startJobs() {
     jobs << FaultJob{.name = "finish",
                      .samples = 6,
                      .prepare = prepareEnd,
-                     .begin = FaultJob::step([](StoreContext& context) {
-                         finishUpgrade(context.workspace.openDatabase(context.dataFilePath));
-                     }),
+                     .begin = FaultJob::step([](StoreContext& context) { finishUpgrade(context.database()); }),
                      .next = startAfterStep};
     jobs << FaultJob{.name = "chain",
                      .samples = 6,

@@ -9,7 +9,7 @@
 /// between them. Group headers begin with "#", totals with "=".
 inline QStringList filled(const LeagueReport& report, StoreContext& store) {
     if (report.prepare) report.prepare(store);
-    report::ReportFiller filler(report.definition, storeRows(store.workspace.openDatabase(store.dataFilePath)));
+    report::ReportFiller filler(report.definition, storeRows(store.database()));
     QStringList lines;
     for (report::Band band; filler.next(band); band.reset()) {
         using report::BandKind;

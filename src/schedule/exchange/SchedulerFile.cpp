@@ -51,12 +51,11 @@ void writeTeam(Sections& file, int number, const QString& division, const QStrin
 }
 
 void writeTeams(Sections& file, StoreContext& context, const QString& division, int divisionId) {
-    datafile::Recordset teams =
-        context.workspace.openDatabase(context.dataFilePath)
-            .openRecordset(QStringLiteral("SELECT *, tblteam![TeamName] as Name FROM tblTeam WHERE "
-                                          "tblteam![DivisionId] = %1  AND tblTeam![DeletedFlag] = False ORDER BY "
-                                          "tblTeam![TeamName]")
-                               .arg(divisionId));
+    datafile::Recordset teams = context.database().openRecordset(
+        QStringLiteral("SELECT *, tblteam![TeamName] as Name FROM tblTeam WHERE "
+                       "tblteam![DivisionId] = %1  AND tblTeam![DeletedFlag] = False ORDER BY "
+                       "tblTeam![TeamName]")
+            .arg(divisionId));
     clsTeamVolunteer staff(context);
     int written = 0;
     for (; !teams.eof(); teams.moveNext()) {
@@ -69,11 +68,10 @@ void writeTeams(Sections& file, StoreContext& context, const QString& division, 
 
 /// A field that is gone keeps its place. Its time slot goes by the name of the field before it.
 void writeFields(Sections& file, StoreContext& context, const QString& division, int divisionId) {
-    datafile::Recordset ids =
-        context.workspace.openDatabase(context.dataFilePath)
-            .openRecordset(QStringLiteral("SELECT DISTINCT(tblTeamField![FieldId]) as FieldId FROM tblTeamField WHERE "
-                                          "tblteamField![DivisionId] = %1 ORDER BY tblTeamField![FieldId]")
-                               .arg(divisionId));
+    datafile::Recordset ids = context.database().openRecordset(
+        QStringLiteral("SELECT DISTINCT(tblTeamField![FieldId]) as FieldId FROM tblTeamField WHERE "
+                       "tblteamField![DivisionId] = %1 ORDER BY tblTeamField![FieldId]")
+            .arg(divisionId));
     clsFieldInfo field(context);
     field.ResetFieldRecord();
     int written = 0;
