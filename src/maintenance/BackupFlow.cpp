@@ -24,9 +24,9 @@ void BackupFlow::prepareBackup() {
     if (!MakeSafetyCopy(program_.store)) return;
     QString failure;
     {
-        const BusyBar busy(tr("Compacting the data file..."), 0);
+        BusyBar busy(tr("Compacting the data file..."));
         try {
-            compactWithoutWorkTables(program_.store);
+            compactWithoutWorkTables(program_.store, busy.quietlyFrom(0));
         } catch (const datafile::Error& error) {
             failure = error.text();
         }
@@ -66,8 +66,9 @@ void BackupFlow::restore() {
                                               tr("The Archive file does not exist.\n\nRestore Cancelled."));
     int code = 0;
     {
-        BusyBar busy(tr("Restoring the data file..."));
-        code = ::restore(program_.store, *archive, program_.homeFolder(), busy.from(0));
+        BusyBar busy(tr("Restoring the data file..."), 2 * BusyBar::whole);
+        code =
+            ::restore(program_.store, *archive, program_.homeFolder(), busy.from(0), busy.quietlyFrom(BusyBar::whole));
         program_.screens.showAnew();
     }
     tell(restoreResult(code));
@@ -82,11 +83,11 @@ void BackupFlow::compact() {
     if (!program_.screens.offerToSave() || !MakeSafetyCopy(program_.store)) return;
     QStringList failures;
     {
-        BusyBar busy(tr("Removing the records that are marked as deleted..."), 2);
-        failures = purgeDeletedRows(program_.store);
-        busy.show(1, tr("Compacting the data file..."));
+        BusyBar busy(tr("Removing the records that are marked as deleted..."), 2 * BusyBar::whole);
+        failures = purgeDeletedRows(program_.store, busy.from(0));
+        busy.show(BusyBar::whole, tr("Compacting the data file..."));
         try {
-            compactWithoutWorkTables(program_.store);
+            compactWithoutWorkTables(program_.store, busy.quietlyFrom(BusyBar::whole));
         } catch (const datafile::Error& error) {
             failures << error.text();
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/archive/Archive.h"
+#include "platform/datafile/DataFile.h"
 #include "shell/frmStatusBar.h"
 
 /// For the length of a work on whole files: the busy pointer, and a bar that takes the place of all input.
@@ -17,6 +18,11 @@ public:
     /// Moves the bar from `from` on as the work is told to come on, 0 to `whole`.
     archive::Progress from(int from, const QString& text = {}) {
         return [this, from, text](int percent) { show(from + percent, text); };
+    }
+
+    /// The same for work that is told in the midst of a statement: the bar is painted, and nothing else happens.
+    datafile::Progress quietlyFrom(int from) {
+        return [this, from](int percent) { bar_.Paint(from + percent); };
     }
 
 private:

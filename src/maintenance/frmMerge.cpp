@@ -154,7 +154,7 @@ std::unique_ptr<MergeFile> frmMerge::open(const QString& path) {
     {
         BusyBar bar(tr("Reading the data that is to be merged..."));
         try {
-            file = std::make_unique<MergeFile>(program_.store, path, bar.from(0));
+            file = std::make_unique<MergeFile>(program_.store, path, bar.quietlyFrom(0));
         } catch (const datafile::Error& error) {
             failure = numbered(error);
         }

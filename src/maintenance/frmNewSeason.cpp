@@ -155,8 +155,7 @@ void frmNewSeason::addButtons() {
 }
 
 void frmNewSeason::readYear() {
-    datafile::Recordset options =
-        program_.store.workspace.openDatabase(program_.store.dataFilePath).openRecordset("tblOptions");
+    datafile::Recordset options = program_.store.database().openRecordset("tblOptions");
     year_ = options.eof() ? QString::number(program_.clock().today().year()) : options.text("CurrentSeasonYear");
 }
 

@@ -42,4 +42,10 @@ void frmStatusBar::Update(int position, const QString& text, bool delay) {
     }
 }
 
+void frmStatusBar::Paint(int position) {
+    if (position == ctlStatusBar_->value()) return;
+    ctlStatusBar_->setValue(position);
+    ctlStatusBar_->repaint();
+}
+
 void frmStatusBar::Done() { close(); }

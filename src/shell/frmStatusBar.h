@@ -17,6 +17,8 @@ public:
     /// Moves the bar; a text that is not empty takes the title's place. With `delay` the window stays so for a
     /// second. The window is painted, but takes no input.
     void Update(int position, const QString& text = {}, bool delay = false);
+    /// Moves the bar and paints it, and handles no other event.
+    void Paint(int position);
     void Done();
 
 private:

@@ -51,7 +51,7 @@ QString statementFor(const StoreContext& context, int kind, const QString& text)
 
 void DeleteRecords(StoreContext& context, int kind, const QString& text) {
     const QString statement = statementFor(context, kind, text);
-    if (!statement.isEmpty()) context.workspace.openDatabase(context.dataFilePath).execute(statement);
+    if (!statement.isEmpty()) context.database().execute(statement);
 }
 
 QStringList purgedTables() {
@@ -90,12 +90,12 @@ void ClearUpgradeWork(StoreContext& context) {
     DeleteRecords(context, TempResults);
 }
 
-void CompactDataFile(StoreContext& context) {
+void CompactDataFile(StoreContext& context, const datafile::Progress& progress) {
     const QString& path = context.dataFilePath;
     const QString compacted = path.chopped(4) + QStringLiteral(".CPT");
     QFile::remove(compacted);  // of a program that was ended while it compacted
     try {
-        context.workspace.compactDatabase(path, compacted);
+        context.workspace.compactDatabase(path, compacted, progress);
         context.workspace.replaceDatabase(path, compacted);
     } catch (...) {
         QFile::remove(compacted);

@@ -29,4 +29,4 @@ void ClearUpgradeWork(StoreContext& context);
 
 /// Writes the data file anew without its free space, by way of a ".CPT" file beside it that is checked completely
 /// before it takes the old one's place; permissions stay. When it raises datafile::Error, the old file is as it was.
-void CompactDataFile(StoreContext& context);
+void CompactDataFile(StoreContext& context, const datafile::Progress& progress = {});

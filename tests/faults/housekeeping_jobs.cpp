@@ -7,7 +7,7 @@
 
 void prepareEveryTable(const LeagueFolder& folder) {
     folder.makeLeague([](StoreContext& context) {
-        const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
+        const datafile::Database database = context.database();
         QStringList tables = purgedTables();
         std::reverse(tables.begin(), tables.end());  // what others refer to comes first
         for (const QString& table : tables) {
@@ -43,7 +43,7 @@ void purge(StoreContext& context) {
 /// Tables up to one are purged and those behind it untouched.
 void judgePurge(const Aftermath& aftermath) {
     aftermath.folder.with([&](StoreContext& context) {
-        const datafile::Database database = context.workspace.openDatabase(context.dataFilePath);
+        const datafile::Database database = context.database();
         int untouched = 0;
         for (const QString& table : purgedTables()) {
             SCOPED_TRACE(table.toStdString());
@@ -70,5 +70,8 @@ QList<FaultJob> housekeepingJobs() {
              .begin = FaultJob::step(purge),
              .judge = judgePurge,
              .next = purgeAnew},
-            {.name = "compact", .samples = 8, .prepare = prepareEveryTable, .begin = FaultJob::step(CompactDataFile)}};
+            {.name = "compact",
+             .samples = 8,
+             .prepare = prepareEveryTable,
+             .begin = FaultJob::step([](StoreContext& context) { CompactDataFile(context); })}};
 }

@@ -31,14 +31,15 @@ bool hasTable(const Database& database, const QString& name) {
 
 }  // namespace
 
-MergeFile::MergeFile(StoreContext& context, const QString& path, const std::function<void(int)>& progress)
+MergeFile::MergeFile(StoreContext& context, const QString& path, const datafile::Progress& progress)
     : copy_(context.dataFilePath) {
     constexpr int copied = 40;
+    constexpr int checked = 100;
     try {
         datafile::inspectDataFile(path);
         datafile::Workspace::copyUntouched(path, copy_.path);
         if (progress) progress(copied);
-        datafile::checkIntegrity(copy_.path, datafile::Check::Quick);
+        datafile::checkIntegrity(copy_.path, datafile::Check::Quick, datafile::part(progress, copied, checked));
         database_.emplace(context.workspace.openDatabase(copy_.path));
         code_ = judge(*database_);
     } catch (const Error& error) {

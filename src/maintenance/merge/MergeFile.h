@@ -16,7 +16,7 @@ public:
 
     /// Raises datafile::Error when the file cannot be copied, is being written, or is damaged.
     /// `progress` is told how far it has come, 0 to 100.
-    MergeFile(StoreContext& context, const QString& path, const std::function<void(int)>& progress = {});
+    MergeFile(StoreContext& context, const QString& path, const datafile::Progress& progress = {});
 
     /// Whether it can be merged: a data file of "Version 1.38" or later, with every table and column that is merged.
     Code code() const { return code_; }

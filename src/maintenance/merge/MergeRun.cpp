@@ -19,7 +19,7 @@ QString numbered(const Error& error) {
 }
 
 MergeRun::MergeRun(StoreContext& context, const datafile::Database& source, MergeProgress& progress)
-    : work_{context, context.workspace.openDatabase(context.dataFilePath), source}, progress_(progress) {}
+    : work_{context, context.database(), source}, progress_(progress) {}
 
 void MergeRun::run() { run(0, mergeSteps().size()); }
 

@@ -5,14 +5,17 @@
 #include "store/CorrectVersion.h"
 #include "store/Housekeeping.h"
 
-void compactWithoutWorkTables(StoreContext& context) {
+void compactWithoutWorkTables(StoreContext& context, const datafile::Progress& progress) {
     for (const RecordKind kind : {TempResults, TempSearchList, TempFeeReport}) DeleteRecords(context, kind);
-    CompactDataFile(context);
+    CompactDataFile(context, progress);
 }
 
-QStringList purgeDeletedRows(StoreContext& context) {
+QStringList purgeDeletedRows(StoreContext& context, const datafile::Progress& progress) {
     QStringList failures;
-    for (const QString& table : purgedTables()) {
+    const QStringList tables = purgedTables();
+    for (qsizetype i = 0; i < tables.size(); ++i) {
+        const QString& table = tables[i];
+        if (progress) progress(datafile::percentOf(i, tables.size()));
         try {
             DeleteRecords(context, DeletedRows, table);
         } catch (const datafile::Error& error) {

@@ -8,10 +8,10 @@ inline constexpr qint64 largestDataFile = qint64{2} << 30;
 
 /// Empties the work tables and writes the data file anew without its free space. When it raises datafile::Error the
 /// file holds what it held.
-void compactWithoutWorkTables(StoreContext& context);
+void compactWithoutWorkTables(StoreContext& context, const datafile::Progress& progress = {});
 
 /// Removes for good what is marked as deleted, table by table; what a table's rows failed with, one text a table.
-QStringList purgeDeletedRows(StoreContext& context);
+QStringList purgeDeletedRows(StoreContext& context, const datafile::Progress& progress = {});
 
 /// Packs the data file into the archive, which counts only after it was read back and compared. It never takes the
 /// place of the data file or its safety copy. 0, or the code of what went wrong.
@@ -23,4 +23,4 @@ int backUp(StoreContext& context, const QString& archive, const archive::Progres
 /// file's own name. It comes to lie in `homeFolder`, and at the data file's path where that is elsewhere. 0, or the
 /// code of what went wrong; then the data file is what it was.
 int restore(StoreContext& context, const QString& archive, const QString& homeFolder,
-            const archive::Progress& progress);
+            const archive::Progress& unpacking, const datafile::Progress& checking = {});

@@ -35,7 +35,7 @@ void make(const SeasonPart& part, StoreContext& context, const Database& databas
 
 void runSeasonStep(const SeasonStep& step, StoreContext& context, const QString& year, const SeasonDisplay& display) {
     display.step(step.parts.front().text);
-    const Database database = context.workspace.openDatabase(context.dataFilePath);
+    const Database database = context.database();
     datafile::Transaction transaction(database);
     std::optional<datafile::Error> failure;
     try {

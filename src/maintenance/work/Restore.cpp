@@ -47,8 +47,8 @@ archive::Fault unpackDataFile(const StoreContext& context, const QString& archiv
     return archive::unpack(archive, QFileInfo(context.dataFilePath).fileName(), to, largestDataFile, progress);
 }
 
-bool holdsLeague(StoreContext& context, const QString& path) {
-    datafile::checkIntegrity(path);
+bool holdsLeague(StoreContext& context, const QString& path, const datafile::Progress& checking) {
+    datafile::checkIntegrity(path, datafile::Check::Thorough, checking);
     const datafile::Database database = context.workspace.openDatabase(path);
     return database.table("tblVersion") && database.table("tblOptions") && database.table("tblRegistration");
 }
@@ -72,16 +72,16 @@ void putInPlace(StoreContext& context, const QString& made, const QString& home,
 }  // namespace
 
 int restore(StoreContext& context, const QString& archive, const QString& homeFolder,
-            const archive::Progress& progress) {
+            const archive::Progress& unpacking, const datafile::Progress& checking) {
     const QString home = QDir(homeFolder).filePath(QStringLiteral("Kestrelmoor.kmr"));
     try {
         try {
             const bool hasCopy = makeCopy(context);
             const datafile::Scrap made(home);
-            if (const archive::Fault fault = unpackDataFile(context, archive, made.path, progress);
+            if (const archive::Fault fault = unpackDataFile(context, archive, made.path, unpacking);
                 fault != archive::Fault::None)
                 return restoreCode(fault);
-            if (!holdsLeague(context, made.path)) return wrongContentCode;
+            if (!holdsLeague(context, made.path, checking)) return wrongContentCode;
             putInPlace(context, made.path, home, hasCopy);
             return 0;
         } catch (const files::Error& error) {

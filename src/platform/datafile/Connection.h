@@ -110,6 +110,7 @@ public:
 
 private:
     friend class Statement;
+    friend class Watch;
     void open(bool mustExist);
     void close();
     void reopen();

@@ -1,8 +1,8 @@
 #include "platform/datafile/Workspace.h"
 
 #include "platform/datafile/Connection.h"
-#include "platform/datafile/DataFile.h"
 #include "platform/datafile/TableSql.h"
+#include "platform/datafile/Watch.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -32,6 +32,20 @@ void putInPlace(const QString& made, const QString& path) {
     } catch (const files::Error& error) {
         passOn(error);
     }
+}
+
+/// Bytes of a data file that are in use.
+qint64 usedSize(Connection& connection) {
+    Statement used(connection, QStringLiteral("SELECT (page_count - freelist_count) * page_size "
+                                              "FROM pragma_page_count, pragma_freelist_count, pragma_page_size"));
+    return used.step() ? used.number(0) : 0;
+}
+
+void writeAnew(Connection& connection, const QString& made, const Progress& progress) {
+    const Watch watch(connection, [&, size = usedSize(connection)] {
+        if (progress) progress(percentOf(QFileInfo(made).size(), size));
+    });
+    Statement(connection, QStringLiteral("VACUUM INTO ") + sql::literal(made)).run();
 }
 
 /// Keeps other processes from writing a data file, by the lock that readers of the engine hold; the file itself stays
@@ -125,14 +139,15 @@ void Workspace::createWhole(const QString& path, const std::function<void(const 
     putInPlace(made.path, path);
 }
 
-void Workspace::compactDatabase(const QString& from, const QString& to) {
+void Workspace::compactDatabase(const QString& from, const QString& to, const Progress& progress) {
     if (QFileInfo::exists(to))
         throw Error(Fault::State, tr("The file %1 exists already.").arg(QDir::toNativeSeparators(to)));
     createWhole(to, [&](const QString& made) {
         auto connection = find(from);
         if (!connection) connection = std::make_shared<Connection>(from, true);
-        Statement(*connection, QStringLiteral("VACUUM INTO ") + sql::literal(made)).run();
-        checkIntegrity(made);
+        constexpr int written = 30;  // percent; to check it takes longer
+        writeAnew(*connection, made, part(progress, 0, written));
+        checkIntegrity(made, Check::Thorough, part(progress, written, 100));
         QFile::setPermissions(made, QFileInfo(from).permissions());
     });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/datafile/DataFile.h"
 #include "platform/datafile/Database.h"
 
 #include <QHash>
@@ -26,7 +27,7 @@ public:
     /// nothing of it stays and an older file is what it was.
     static void createWhole(const QString& path, const std::function<void(const QString& made)>& make);
     /// Writes the file's content without its free space as the new file `to`, checked and on disk.
-    void compactDatabase(const QString& from, const QString& to);
+    void compactDatabase(const QString& from, const QString& to, const Progress& progress = {});
     /// Puts the finished file `made`, from the same folder, in the place of the data file at `path`, whose
     /// permissions stay. The connection is closed for it and opened again; open cursors take their keys anew.
     void replaceDatabase(const QString& path, const QString& made);

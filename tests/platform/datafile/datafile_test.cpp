@@ -340,6 +340,23 @@ TEST_F(DataFileTest, CompactCopyAndReplaceReachOpenCursors) {
     EXPECT_FALSE(QFile::exists(path() + "-journal"));
 }
 
+TEST_F(DataFileTest, CompactingTellsHowFarItHasCome) {
+    constexpr int written = 30;
+    addPlayer("Some name", "or other", QDate(2012, 1, 1));
+    for (int doubled = 0; doubled < 18; ++doubled)
+        database.execute("INSERT INTO tblPlayer ([LastName], [FirstName], [BirthDate]) SELECT [LastName], [FirstName], "
+                         "[BirthDate] FROM tblPlayer");
+    QList<int> told;
+    workspace.compactDatabase(path(), folder.filePath("small.CPT"), [&told](int percent) {
+        if (told.isEmpty() || percent != told.last()) told << percent;
+    });
+    EXPECT_TRUE(std::is_sorted(told.begin(), told.end())) << "it never goes back";
+    EXPECT_LT(told.first(), written);
+    EXPECT_GT(told.last(), written) << "the check counts too";
+    EXPECT_LE(told.last(), 100);
+    EXPECT_GT(told.size(), 10);
+}
+
 TEST_F(DataFileTest, WhatIsNoGoodDataFileIsRefusedAndLeftAlone) {
     for (int i = 0; i < 300; ++i) addPlayer("Some name", "or other", QDate(2012, 1, 1));
     QFile good(path());
