@@ -69,7 +69,8 @@ ReportPreview::ReportPreview(Report report, QPrinter& printer, Dialogs& dialogs,
     whole->addLayout(bar);
     whole->addWidget(pages, 1);
     if (bar->minimumSize().width() > screen()->availableSize().width()) bar->setDirection(QBoxLayout::TopToBottom);
-    resize(1060, 700);
+    constexpr int titleBar = 40;  // of the desktop's window manager
+    resize(QSize(1060, 700).boundedTo(screen()->availableSize() - QSize(0, titleBar)));
 
     new QShortcut(QKeySequence::ZoomIn, this, [this] { view_->setZoom(view_->zoom() * 1.25); });
     new QShortcut(QKeySequence::ZoomOut, this, [this] { view_->setZoom(view_->zoom() / 1.25); });
