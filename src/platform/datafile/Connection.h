@@ -7,6 +7,7 @@
 #include <QHash>
 #include <memory>
 #include <optional>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -33,6 +34,8 @@ public:
         while (step()) {
         }
     }
+    /// Ready to be bound anew and run once more.
+    void reset();
     int columns() const;
     QString name(int column) const;
     QString declaredType(int column) const;
@@ -45,6 +48,7 @@ private:
     QString sql_;
     sqlite3_stmt* statement_;
     int bound_ = 0;
+    std::vector<QByteArray> texts_;  ///< bound; the engine reads them here
 };
 
 /// The one open connection to a data file; every handle on the file's path shares it.

@@ -40,7 +40,7 @@ Value converted(const Value& value, ColumnType type, const QString& column) {
             return text.isEmpty() ? Value{} : Value{number};
         }
         case ColumnType::Date:
-            if (toText(value).isEmpty()) return {};
+            if (isNull(value) || value == Value{QString()}) return {};
             if (!toDate(value).isValid() && !toTime(value).isValid())
                 throw Error(Fault::NotAllowed, tr("\"%1\" is no date for the column %2.").arg(toText(value), column));
             return value;
@@ -99,8 +99,9 @@ void Recordset::addRows(const QStringList& columns, const std::vector<Values>& r
     for (const QString& column : columns) names << sql::identifier(column);
     const QString text = insertSql(names);
     connection_->write([&] {
+        Statement add(*connection_, text);
         for (const Values& row : rows) {
-            Statement add(*connection_, text);
+            add.reset();
             for (size_t i = 0; i < wanted.size(); ++i) add.bind(converted(row[i], wanted[i]->type, wanted[i]->name));
             add.run();
         }

@@ -12,8 +12,8 @@ Statement::~Statement() { connection_.giveBack(sql_, statement_); }
 Statement& Statement::bind(const Value& value) {
     ++bound_;
     if (const auto* text = std::get_if<QString>(&value)) {
-        const QByteArray bytes = text->toUtf8();
-        sqlite3_bind_text(statement_, bound_, bytes.constData(), static_cast<int>(bytes.size()), SQLITE_TRANSIENT);
+        const QByteArray& bytes = texts_.emplace_back(text->toUtf8());
+        sqlite3_bind_text(statement_, bound_, bytes.constData(), static_cast<int>(bytes.size()), SQLITE_STATIC);
     } else if (const auto* number = std::get_if<qint64>(&value)) {
         sqlite3_bind_int64(statement_, bound_, *number);
     } else if (const auto* real = std::get_if<double>(&value)) {
@@ -27,6 +27,12 @@ Statement& Statement::bind(const Value& value) {
 Statement& Statement::bind(const Values& values, size_t from, size_t count) {
     for (size_t i = from; i < values.size() && i - from < count; ++i) bind(values[i]);
     return *this;
+}
+
+void Statement::reset() {
+    sqlite3_reset(statement_);
+    bound_ = 0;
+    texts_.clear();
 }
 
 bool Statement::step() {
