@@ -148,18 +148,24 @@ void SchedulePane::completeRow(int row, int column) {
     setEditing(true);
 }
 
-bool SchedulePane::ValidateSchedule() {
+std::optional<std::vector<Game>> SchedulePane::ValidateSchedule() {
+    std::vector<Game> games;
     QStringList lines;
     std::optional<std::pair<int, int>> firstBad;
-    for (int row = 0; row < int(grid_->rows().size()); ++row) {
+    for (const GridRow& row : grid_->rows()) {
+        const int number = int(games.size());
         const auto note = [&](int column, const QString& text) {
-            lines << text.arg(row + 1);
-            if (!firstBad) firstBad = {row, column};
+            lines << text.arg(number + 1);
+            if (!firstBad) firstBad = {number, column};
         };
-        if (!parseDate(grid_->text(row, Date))) note(Date, tr("Row %1 - Invalid Game Date"));
-        if (!parseTime(grid_->text(row, Time))) note(Time, tr("Row %1 - Invalid Game Time"));
+        const auto date = parseDate(row.cells.value(Date));
+        const auto time = parseTime(row.cells.value(Time));
+        if (!date) note(Date, tr("Row %1 - Invalid Game Date"));
+        if (!time) note(Time, tr("Row %1 - Invalid Game Time"));
+        games.push_back({date.value_or(QDate()), row.cells.value(WeekDay), time.value_or(QTime()), loadedDivision_,
+                         row.cells.value(Visitors), row.cells.value(Home), row.cells.value(Field)});
     }
-    if (!firstBad) return true;
+    if (!firstBad) return games;
     program().dialogs().warning(
         tr("Schedule Validation"),
         tr("Schedule cannot be saved, the following\nerrors were found while validating the schedule:") + "\n\n" +
@@ -167,15 +173,16 @@ bool SchedulePane::ValidateSchedule() {
     grid_->setCurrentCell(firstBad->first, firstBad->second);
     grid_->setFocus();
     Q_EMIT said(tr("Schedule NOT Saved"));
-    return false;
+    return {};
 }
 
 bool SchedulePane::save() {
     grid_->settle();
     if (!isEditing()) return true;
-    if (!ValidateSchedule()) return false;
+    const auto games = ValidateSchedule();
+    if (!games) return false;
     try {
-        SaveScheduleGrid(loadedDivision_);
+        SaveScheduleGrid(loadedDivision_, *games);
     } catch (const datafile::Error& error) {
         program().dialogs().error(tr("The schedule was not saved"), error.text());
         Q_EMIT said(tr("Schedule NOT Saved"));
@@ -188,11 +195,7 @@ bool SchedulePane::save() {
     return true;
 }
 
-void SchedulePane::SaveScheduleGrid(const QString& division) {
-    std::vector<Game> games;
-    for (const GridRow& row : grid_->rows())
-        games.push_back({*parseDate(row.cells.value(Date)), row.cells.value(WeekDay), *parseTime(row.cells.value(Time)),
-                         division, row.cells.value(Visitors), row.cells.value(Home), row.cells.value(Field)});
+void SchedulePane::SaveScheduleGrid(const QString& division, const std::vector<Game>& games) {
     schedule_.ReplaceDivisionSchedule(division, clsSchedule::Games::NotDeleted, games);
 }
 

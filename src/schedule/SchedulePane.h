@@ -3,6 +3,8 @@
 #include "schedule/GamesPane.h"
 #include "schedule/clsSchedule.h"
 
+#include <optional>
+
 class Grid;
 class QAction;
 class QMenu;
@@ -23,8 +25,9 @@ private:
 
     void showDivision(Shown how) override;
     void LoadScheduleGrid();
-    bool ValidateSchedule();
-    void SaveScheduleGrid(const QString& division);
+    /// The games in the grid; none, and the user knows why, where a date or a time is none.
+    std::optional<std::vector<Game>> ValidateSchedule();
+    void SaveScheduleGrid(const QString& division, const std::vector<Game>& games);
 
     void completeRow(int row, int column);
     void offerRowMenu(const QPoint& global);
