@@ -83,15 +83,15 @@ LeagueReport Reports::uniformsByTeam(const ReportInput& input, const QueryText& 
     sizes.boundTo = QStringList{"OwnerTeam"};
     sizes.keys = QStringList{"PlayerTeamId"};
     sizes.columns = {
-        {tr("Player Name"), lastFirst("PlayerLastName", "PlayerFirstName"), 20, {}, Total::Count},
+        {tr("Player Name"), lastFirst("PlayerLastName", "PlayerFirstName"), 19, {}, Total::Count},
         {tr("Phone"), phone("PlayerPhoneArea", "PlayerPhone"), 12},
         {tr("Birth Date"), date("PlayerBirthDate"), 9, Alignment::Right},
-        {tr("Jersey"), column("PlayerJerseyNumber"), 7, Alignment::Center},
+        {tr("Jersey"), column("PlayerJerseyNumber"), 6, Alignment::Center},
         {tr("Shirt"), column("PlayerShirtSize"), 13},
         {tr("Pants"), column("PlayerPantSize"), 13},
-        {tr("Hat"), column("PlayerHatSize"), 10},
+        {tr("Hat"), column("PlayerHatSize"), 14},
         {tr("Socks"), column("PlayerSocksSize"), 12},
-        {tr("Shoe"), column("PlayerShoeSize"), 10},
+        {tr("Shoe"), column("PlayerShoeSize"), 8},
     };
     sizes.totals = fixed(tr("Players:"));
     sizes.whenEmpty = tr("No players are assigned to this team.");

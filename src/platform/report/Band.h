@@ -47,6 +47,7 @@ struct Band {
     int level = 0;
     int indent = 0;  ///< how many reports this one is nested in
     bool keepWithPrevious = false;
+    bool sameBlock = false;  ///< a row of its own that stays with the band above it where one page holds both
     bool startsPage = false;
     Separation above = Separation::None;
     double space = 0;   ///< points of white above

@@ -37,7 +37,8 @@ Page part(const Page& piece, Items from, Items to, double top, double bottom) {
 
 /// Headers stand at a lower level than what they head.
 bool mayPart(const Band& above, const Band& below) {
-    return below.startsPage || (!below.keepWithPrevious && below.level <= above.level);
+    const bool belongs = below.keepWithPrevious || below.sameBlock;
+    return below.startsPage || (!belongs && below.level <= above.level);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 #include "platform/report/Field.h"
 
@@ -88,6 +89,7 @@ bool BesideSource::next(Band& band) {
     band.indent = first->indent;
     band.keepWithPrevious = first->keepWithPrevious;
     band.shaded = first->shaded;
+    band.sameBlock = std::exchange(begun_, true);
     for (Side& side : sides_) {
         if (!band.cells.empty()) band.cells.push_back(gapCell(shares * gapShare));
         if (!side.waits || side.ahead.kind != kind) {

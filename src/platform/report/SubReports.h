@@ -41,6 +41,7 @@ private:
     };
 
     std::vector<Side> sides_;
+    bool begun_ = false;
 };
 
 /// The white between two reports that stand side by side.

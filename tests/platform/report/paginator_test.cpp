@@ -129,6 +129,23 @@ TEST(Paginator, StartsAPageWhereABandAsksForOne) {
     EXPECT_EQ(allTexts(pages), (std::vector<QStringList>{{"a"}, {"b"}}));
 }
 
+TEST(Paginator, PartsABlockOnlyWhereAPageCannotHoldIt) {
+    for (const int rowsOfBlock : {20, 200}) {
+        std::vector<Band> bands(30, band(BandKind::Detail, 0, "list"));
+        for (int row = 0; row < rowsOfBlock; ++row) {
+            bands.push_back(band(BandKind::Detail, 0, "block"));
+            bands.back().sameBlock = row > 0;
+        }
+        Paginator pages = paginator(bands);
+        const std::vector<QStringList> all = allTexts(pages);
+        qsizetype seen = 0;
+        for (const QStringList& page : all) seen += page.count("block");
+        EXPECT_EQ(seen, rowsOfBlock);
+        EXPECT_FALSE(all.at(0).contains("block"));
+        EXPECT_EQ(all.size() == 2, rowsOfBlock == 20);
+    }
+}
+
 TEST(Paginator, GivesAReportWithoutBandsOneEmptyPage) {
     Paginator pages = paginator({});
     ASSERT_TRUE(pages.page(0));
