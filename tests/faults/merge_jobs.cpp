@@ -44,11 +44,10 @@ FaultJob jobFor(size_t step) {
             .prepare = [step](const LeagueFolder& folder) { prepare(folder, step); },
             .begin =
                 [step](StoreContext& context) {
-                    const QString path = QFileInfo(context.dataFilePath).dir().filePath(otherFile);
-                    auto file = std::make_shared<MergeFile>(context, path);
-                    return [&context, file, step] {
+                    return [&context, step] {
+                        const MergeFile file(context, QFileInfo(context.dataFilePath).dir().filePath(otherFile));
                         Unwatched progress;
-                        MergeRun(context, file->database(), progress).run(step, step + 1);
+                        MergeRun(context, file.database(), progress).run(step, step + 1);
                         return told(context);
                     };
                 }};
