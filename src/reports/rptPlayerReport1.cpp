@@ -89,8 +89,8 @@ LeagueReport Reports::rptPlayerReport1(const ReportInput& input) {
              {.field = phone("PlayerEmergencyPhoneArea", "PlayerEmergencyPhone"), .share = 27}}
             .ifFilled(),
         Line{{tr("Doctor:"), column("PlayerDoctorName"), 46},
-             {.field = phone("PlayerDoctorPhoneArea", "PlayerDoctorPhone"), .share = 27},
-             {tr("Hospital:"), column("PlayerHospitalName"), 27}}
+             {.field = phone("PlayerDoctorPhoneArea", "PlayerDoctorPhone"), .share = 16},
+             {tr("Hospital:"), column("PlayerHospitalName"), 38}}
             .spaced(3)
             .ifFilled(),
         Line{{tr("Dentist:"), column("PlayerDentistName"), 46},
@@ -100,11 +100,11 @@ LeagueReport Reports::rptPlayerReport1(const ReportInput& input) {
              {tr("Policy No.:"), column("PlayerInsPolicyNumber"), 54}}
             .ifFilled(),
         Line{{tr("Medical Notes:"), column("PlayerMedicalComments")}}.ifFilled(),
-        Line{{tr("Shirt:"), column("PlayerShirtSize"), 22},
-             {tr("Pants:"), column("PlayerPantSize"), 22},
-             {tr("Hat:"), column("PlayerHatSize"), 16},
-             {tr("Socks:"), column("PlayerSocksSize"), 21},
-             {tr("Shoes:"), column("PlayerShoeSize"), 19}}
+        Line{{tr("Shirt:"), column("PlayerShirtSize"), 20},
+             {tr("Pants:"), column("PlayerPantSize"), 20},
+             {tr("Hat:"), column("PlayerHatSize"), 22},
+             {tr("Socks:"), column("PlayerSocksSize"), 22},
+             {tr("Shoes:"), column("PlayerShoeSize"), 16}}
             .spaced(3)
             .ifFilled(),
         Line{{tr("Fee:"), money("PlayerFeeAmount"), 17, Alignment::Left},
