@@ -1,5 +1,7 @@
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <cerrno>
 #include <memory>
 #include <optional>
@@ -60,13 +62,52 @@ struct Discard {
     void operator()(zip_t* zip) const { zip_discard(zip); }
 };
 
-void showProgress(zip_t*, double part, void* meter) { static_cast<Meter*>(meter)->show(part); }
+/// The file that the archive library reads, which tells how far that has come: the library itself would set what it has
+/// written against what there is to read.
+struct Source {
+    QFile file;
+    Meter meter;
+    zip_error_t error{};
+
+    zip_int64_t fail(int code) {
+        zip_error_set(&error, code, errno);
+        return -1;
+    }
+    zip_int64_t read(void* data, zip_uint64_t length) {
+        const qint64 got = file.read(static_cast<char*>(data), static_cast<qint64>(length));
+        if (got < 0) return fail(ZIP_ER_READ);
+        if (got > 0) meter.show(std::min(1.0, double(file.pos()) / double(file.size())));
+        return got;
+    }
+    zip_int64_t describe(zip_stat_t& about) const {
+        zip_stat_init(&about);
+        about.size = static_cast<zip_uint64_t>(file.size());
+        about.mtime = QFileInfo(file).lastModified().toSecsSinceEpoch();
+        about.valid |= ZIP_STAT_SIZE | ZIP_STAT_MTIME;
+        return sizeof about;
+    }
+};
+
+/// The library's calls on the source.
+zip_int64_t supply(void* state, void* data, zip_uint64_t length, zip_source_cmd_t command) {
+    auto& source = *static_cast<Source*>(state);
+    switch (command) {
+        case ZIP_SOURCE_SUPPORTS: return ZIP_SOURCE_SUPPORTS_READABLE;
+        case ZIP_SOURCE_OPEN: return source.file.open(QIODevice::ReadOnly) ? 0 : source.fail(ZIP_ER_OPEN);
+        case ZIP_SOURCE_READ: return source.read(data, length);
+        case ZIP_SOURCE_CLOSE: source.file.close(); return 0;
+        case ZIP_SOURCE_STAT: return source.describe(*static_cast<zip_stat_t*>(data));
+        case ZIP_SOURCE_ERROR: return zip_error_to_data(&source.error, data, length);
+        case ZIP_SOURCE_FREE: return 0;
+        default: zip_error_set(&source.error, ZIP_ER_OPNOTSUPP, 0); return -1;
+    }
+}
 
 /// Adds the file to the empty archive; what fails is left in the archive's error.
-bool addFile(zip_t* zip, const QString& file) {
-    zip_source_t* content = zip_source_file(zip, QFile::encodeName(file).constData(), 0, -1);
+bool addFile(zip_t* zip, Source& source) {
+    zip_source_t* content = zip_source_function(zip, &supply, &source);
     if (!content) return false;
-    const QByteArray name = QFileInfo(file).fileName().toUtf8();
+    const QByteArray name = QFileInfo(source.file).fileName().toUtf8();
     const zip_int64_t member = zip_file_add(zip, name.constData(), content, ZIP_FL_ENC_UTF_8);
     if (member < 0) {
         zip_source_free(content);
@@ -80,14 +121,13 @@ Fault writeArchive(const QString& file, Sink& sink, const Progress& progress) {
     zip_error_t error{};
     zip_source_t* target = zip_source_function_create(&serve, &sink, &error);
     if (!target) return faultOf(error);
+    Source source{.file = QFile(file), .meter = Meter(progress)};  // outlives the archive
     std::unique_ptr<zip_t, Discard> zip(zip_open_from_source(target, ZIP_CREATE | ZIP_TRUNCATE, &error));
     if (!zip) {
         zip_source_free(target);
         return faultOf(error);
     }
-    if (!addFile(zip.get(), file)) return faultOf(*zip_get_error(zip.get()));
-    Meter meter(progress);
-    zip_register_progress_callback_with_state(zip.get(), 0.01, &showProgress, nullptr, &meter);
+    if (!addFile(zip.get(), source)) return faultOf(*zip_get_error(zip.get()));
     if (zip_close(zip.get()) != 0)
         return sink.failure ? faultOfWriting(*sink.failure) : faultOf(*zip_get_error(zip.get()));
     zip.release();
