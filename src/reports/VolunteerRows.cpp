@@ -73,15 +73,15 @@ ReportDefinition Reports::volunteerRecord(const ReportInput& input, const QStrin
 }
 
 ReportDefinition Reports::rptVolunteerPlayer() {
-    return part(tr("Players"), 23,
+    return part(tr("Players"), 25,
                 QueryText("SELECT DISTINCT VolId, PlayerLastName, PlayerFirstName, PlayerBirthDate "
                           "FROM tblRegistrationVolunteer INNER JOIN tblRegistration "
                           "ON tblRegistrationVolunteer!PlayerId = tblRegistration!PlayerId "
                           "AND tblRegistration!DeletedFlag = False")
                     .where("tblRegistrationVolunteer!DeletedFlag = False"),
                 "PlayerLastName, PlayerFirstName, PlayerBirthDate",
-                {{.field = lastFirst("PlayerLastName", "PlayerFirstName"), .share = 17},
-                 {.field = date("PlayerBirthDate"), .share = 10, .alignment = Alignment::Right}});
+                {{.field = lastFirst("PlayerLastName", "PlayerFirstName"), .share = 16},
+                 {.field = date("PlayerBirthDate"), .share = 12, .alignment = Alignment::Right}});
 }
 
 ReportDefinition Reports::rptVolunteerPositions() {
