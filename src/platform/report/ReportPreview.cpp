@@ -70,7 +70,9 @@ ReportPreview::ReportPreview(Report report, QPrinter& printer, Dialogs& dialogs,
     whole->addWidget(pages, 1);
     if (bar->minimumSize().width() > screen()->availableSize().width()) bar->setDirection(QBoxLayout::TopToBottom);
     constexpr int titleBar = 40;  // of the desktop's window manager
-    resize(QSize(1060, 700).boundedTo(screen()->availableSize() - QSize(0, titleBar)));
+    const QRect desktop = screen()->availableGeometry().adjusted(0, 0, 0, -titleBar);
+    resize(QSize(1060, 700).boundedTo(desktop.size()));
+    move(desktop.center() - rect().center());
 
     new QShortcut(QKeySequence::ZoomIn, this, [this] { view_->setZoom(view_->zoom() * 1.25); });
     new QShortcut(QKeySequence::ZoomOut, this, [this] { view_->setZoom(view_->zoom() / 1.25); });
