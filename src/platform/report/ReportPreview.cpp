@@ -296,12 +296,15 @@ void ReportPreview::find(bool backwards) {
     guarded([&] {
         QApplication::setOverrideCursor(Qt::WaitCursor);
         const auto restore = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
-        const auto place = findText(*pages_, findBox_->text(), found_, backwards);
+        const bool turnedSince = view_->currentPage() != pageAfterFind_;
+        const TextPlace from = turnedSince ? TextPlace{.page = view_->currentPage()} : found_;
+        const auto place = findText(*pages_, findBox_->text(), from, backwards);
         showCount();
         findResult_->setText(place || findBox_->text().isEmpty() ? QString() : tr("Not found"));
         if (!place) return view_->setMark(-1, {});
         found_ = *place;
         view_->setMark(place->page, areasOf(*pages_, *pages_->page(place->page), place->start, place->length));
+        pageAfterFind_ = view_->currentPage();
         showCurrent();
     });
 }

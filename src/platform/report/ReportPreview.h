@@ -48,6 +48,7 @@ private:
     Dialogs& dialogs_;
     std::unique_ptr<Paginator> pages_;
     TextPlace found_;
+    int pageAfterFind_ = 0;  ///< the next find begins at a page turned to since
     QTimer idle_;
     PageView* view_ = nullptr;
     PageView* thumbnails_ = nullptr;

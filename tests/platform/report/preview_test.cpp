@@ -145,6 +145,12 @@ TEST_F(Preview, FindsText) {
     click("cmdFindNext");
     EXPECT_EQ(find<QLabel>("findResult").text(), "Not found");
     EXPECT_EQ(page(), where);
+
+    box.setText("number");
+    click("cmdFirst");
+    click("cmdNext");
+    click("cmdFindNext");
+    EXPECT_EQ(page(), 2) << "a page turned by hand is where the next find begins";
 }
 
 TEST_F(Preview, PrintsThePagesAskedForOnThePrintersPaper) {
