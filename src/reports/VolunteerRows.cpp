@@ -9,7 +9,6 @@ ReportDefinition part(const QString& title, double share, const QueryText& query
     ReportDefinition list;
     list.title = title;
     list.share = share;
-    list.points = 7.5;
     list.query = query.orderBy("VolId, " + order);
     list.columns = columns;
     list.boundTo = list.keys = QStringList{"VolId"};
@@ -68,24 +67,24 @@ ReportDefinition Reports::volunteerRecord(const ReportInput& input, const QStrin
     };
     record.subReports = {rptVolunteerPlayer(), rptVolunteerPositions(), rptVolunteerAssignments(),
                          rptVolunteerCertifications()};
-    record.subReportsSideBySide = true;
+    record.subReportsAcross = 2;
     return record;
 }
 
 ReportDefinition Reports::rptVolunteerPlayer() {
-    return part(tr("Players"), 25,
+    return part(tr("Players"), 52,
                 QueryText("SELECT DISTINCT VolId, PlayerLastName, PlayerFirstName, PlayerBirthDate "
                           "FROM tblRegistrationVolunteer INNER JOIN tblRegistration "
                           "ON tblRegistrationVolunteer!PlayerId = tblRegistration!PlayerId "
                           "AND tblRegistration!DeletedFlag = False")
                     .where("tblRegistrationVolunteer!DeletedFlag = False"),
                 "PlayerLastName, PlayerFirstName, PlayerBirthDate",
-                {{.field = lastFirst("PlayerLastName", "PlayerFirstName"), .share = 16},
-                 {.field = date("PlayerBirthDate"), .share = 12, .alignment = Alignment::Right}});
+                {{.field = lastFirst("PlayerLastName", "PlayerFirstName"), .share = 31},
+                 {.field = date("PlayerBirthDate"), .share = 11}});
 }
 
 ReportDefinition Reports::rptVolunteerPositions() {
-    return part(tr("Positions"), 12,
+    return part(tr("Positions"), 48,
                 QueryText("SELECT DISTINCT VolId, VolPosName FROM tblVolToPosition INNER JOIN tblVolunteerPositions "
                           "ON tblVolToPosition!VolPosId = tblVolunteerPositions!VolPosId "
                           "AND tblVolunteerPositions!DeletedFlag = False")
@@ -95,20 +94,20 @@ ReportDefinition Reports::rptVolunteerPositions() {
 
 ReportDefinition Reports::rptVolunteerAssignments() {
     return part(
-        tr("Teams"), 35,
+        tr("Teams"), 52,
         QueryText("SELECT VolId, VolPosName, DivName, TeamName FROM tblTeamVolunteer "
                   "LEFT JOIN tblDivision ON tblTeamVolunteer!DivisionId = tblDivision!DivisionId "
                   "AND tblDivision!DeletedFlag = False "
                   "LEFT JOIN tblTeam ON tblTeamVolunteer!TeamId = tblTeam!TeamId AND tblTeam!DeletedFlag = False")
             .where("tblTeamVolunteer!DeletedFlag = False"),
         "DivName, TeamName, VolPosName",
-        {{.field = staffPosition(), .share = 14},
-         {.field = column("DivName").orElse(tr("Unknown Division")), .share = 13},
+        {{.field = staffPosition(), .share = 11},
+         {.field = column("DivName").orElse(tr("Unknown Division")), .share = 20},
          {.field = column("TeamName").orElse(tr("Unknown Team")), .share = 11}});
 }
 
 ReportDefinition Reports::rptVolunteerCertifications() {
-    return part(tr("Certifications"), 33,
+    return part(tr("Certifications"), 48,
                 QueryText("SELECT VolId, CertifyingOrganization, CertificationName FROM tblVolunteerCertifications "
                           "INNER JOIN tblCertifications "
                           "ON tblVolunteerCertifications!CertificationId = tblCertifications!CertificationId "

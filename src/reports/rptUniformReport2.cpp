@@ -10,6 +10,6 @@ LeagueReport Reports::rptUniformReport2(const ReportInput& input) {
     report.query = teams(input).orderBy("DivName, TeamName");
     const SizeOwners owners = eachTeam();
     report.subReports = {shirtCounts(owners), pantCounts(owners), hatCounts(owners), shoeCounts(owners)};
-    report.subReportsSideBySide = true;
+    report.subReportsAcross = 4;
     return report;
 }

@@ -11,7 +11,7 @@ LeagueReport Reports::rptUniformReport5(const ReportInput& input) {
                        .orderBy("DivName");
     const SizeOwners owners = eachDivision();
     report.subReports = {pantCounts(owners), shirtCounts(owners)};
-    report.subReportsSideBySide = true;
+    report.subReportsAcross = 2;
     report.noData = NoData{tr("No Data to Report"), tr("No Data to Report - No Divisions have been Defined.")};
     return report;
 }

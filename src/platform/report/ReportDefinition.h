@@ -117,7 +117,7 @@ struct ReportDefinition {
     std::vector<Line> lines{};                   ///< further lines of each row, or, without columns, a record of lines
     bool rowStartsPage = false;                  ///< each row on a page of its own
     std::vector<ReportDefinition> subReports{};  ///< printed under each row
-    bool subReportsSideBySide = false;           ///< those of rows and groups alike
+    int subReportsAcross = 1;                    ///< so many of them side by side, those of rows and groups alike
     std::optional<Field> totals{};               ///< caption of the totals of the whole report
     std::optional<LabelSheet> labels{};
     std::optional<NoData> noData{};

@@ -312,16 +312,19 @@ void ReportFiller::takeValues(BoundParts& parts) const {
 }
 
 void ReportFiller::addParts(const BoundParts& parts) {
+    const size_t across = size_t(definition_->subReportsAcross);
     std::unique_ptr<BesideSource> beside;
-    if (definition_->subReportsSideBySide && parts.values.size() > 1) beside = std::make_unique<BesideSource>();
     for (size_t index = 0; index < parts.values.size(); ++index) {
         std::shared_ptr<const ReportDefinition> part(definition_, &(*parts.parts)[index]);
         std::unique_ptr<BandSource> source(new ReportFiller(
             part, open_, Place{detailLevel_ + 1, place_.indent + 1, parts.values[index], place_.keyed}));
-        if (beside)
-            beside->add(std::move(source), *part);
-        else
+        if (across == 1) {
             ready_.add(std::move(source));
+            continue;
+        }
+        if (!beside) beside = std::make_unique<BesideSource>(index > 0);
+        beside->add(std::move(source), *part);
+        if ((index + 1) % across == 0) ready_.add(std::move(beside));
     }
     if (beside) ready_.add(std::move(beside));
 }

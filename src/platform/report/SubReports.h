@@ -28,6 +28,8 @@ private:
 /// Several reports side by side: heads level with heads, rows with rows, totals with totals.
 class BesideSource final : public BandSource {
 public:
+    /// Those that go on stay on the page of the reports above them where it holds both.
+    explicit BesideSource(bool goesOn) : begun_(goesOn) {}
     void add(std::unique_ptr<BandSource> source, const ReportDefinition& part);
     bool next(Band& band) override;
 
@@ -41,7 +43,7 @@ private:
     };
 
     std::vector<Side> sides_;
-    bool begun_ = false;
+    bool begun_;
 };
 
 /// The white between two reports that stand side by side.

@@ -208,11 +208,21 @@ TEST(ReportFiller, StandsReportsAndRowsSideBySide) {
     ReportDefinition definition;
     definition.query.text = "one";
     definition.subReports = {shirts, hats};
-    definition.subReportsSideBySide = true;
+    definition.subReportsAcross = 2;
     EXPECT_EQ(filled(definition, tables),
               (QStringList{"  group: Shirts |  | Hats", "  heads: Size | Count |  | Size | Count",
                            "  row: Small | 1 |  | Flat | 5", "  row: Large | 2 |  | ", "  row: Other | 3 |  | ",
                            "  totals: All | 6 |  | All | 5"}));
+    definition.subReports = {hats, hats, hats};
+    EXPECT_EQ(filled(definition, tables),
+              (QStringList{"  group: Hats |  | Hats", "  heads: Size | Count |  | Size | Count",
+                           "  row: Flat | 5 |  | Flat | 5", "  totals: All | 5 |  | All | 5", "  group: Hats",
+                           "  heads: Size | Count", "  row: Flat | 5", "  totals: All | 5"}));
+    ReportFiller filler(definition, ListRows::over(tables));
+    Band band;
+    ASSERT_TRUE(filler.next(band));
+    EXPECT_FALSE(band.sameBlock);
+    while (filler.next(band)) EXPECT_TRUE(band.sameBlock) << "all reports of one row stay together";
     shirts.title.clear();
     shirts.across = 2;
     EXPECT_EQ(filled(shirts, tables),
